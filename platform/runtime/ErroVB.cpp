@@ -27,6 +27,8 @@ ErroVB ErroVB::padrao(std::int32_t numero) {
             return {numero, QStringLiteral("Erro de acesso ao caminho/arquivo")};
         case ErroCaminhoNaoEncontrado:
             return {numero, QStringLiteral("Caminho não encontrado")};
+        case ErroObjetoNaoDefinido:
+            return {numero, QStringLiteral("A variável do objeto ou a variável do bloco With não foi definida")};
         default:
             return {numero, QStringLiteral("Erro definido pelo aplicativo ou pelo objeto")};
     }

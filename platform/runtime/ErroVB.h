@@ -18,6 +18,7 @@ enum CodigoErro : std::int32_t {
     ErroPermissaoNegada = 70,
     ErroAcessoCaminho = 75,
     ErroCaminhoNaoEncontrado = 76,
+    ErroObjetoNaoDefinido = 91,
 };
 
 // A run-time error as the old platform raised it: a number and a description. It is the one
