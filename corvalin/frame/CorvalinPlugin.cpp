@@ -1,0 +1,9 @@
+#include "corvalin/frame/CorvalinPlugin.h"
+
+#include "corvalin/frame/Corvalin.h"
+
+namespace corvalin {
+
+std::unique_ptr<halvo::IModelo> CorvalinPlugin::CriaModelo() { return std::make_unique<Corvalin>(); }
+
+}  // namespace corvalin
