@@ -1,0 +1,154 @@
+#include "halvo/app/LinhaDeComando.h"
+
+#include "halvo/app/CasoPasta.h"
+#include "halvo/app/Modelos.h"
+#include "halvo/app/NotificadorRegistro.h"
+#include "halvo/sdk/IModelo.h"
+#include "platform/runtime/ErroVB.h"
+
+namespace halvo {
+
+namespace {
+
+// The host's names of the groups of screens that a model offers.
+const char16_t* const NomesDosGrupos[] = {u"Cadastro", u"Importação", u"Execução", u"Resultados"};
+
+}  // namespace
+
+LinhaDeComando::LinhaDeComando(const Modelos& modelos, QTextStream& saida, QTextStream& erro)
+    : mModelos(modelos), mSaida(saida), mErro(erro) {
+    mComandos[QStringLiteral("info")] = {QStringLiteral("info"),
+                                         QStringLiteral("mostra o modelo, suas versões e suas telas"), 0,
+                                         [this](const QStringList&) { return pInfo(); }};
+    mComandos[QStringLiteral("criar")] = {QStringLiteral("criar PASTA"), QStringLiteral("cria um caso novo na pasta"),
+                                          1, [this](const QStringList& a) { return pCriar(a[0]); }};
+    mComandos[QStringLiteral("abrir")] = {
+        QStringLiteral("abrir PASTA"), QStringLiteral("abre o caso, atualizando seu banco de dados, e o fecha"), 1,
+        [this](const QStringList& a) { return pAbrir(a[0]); }};
+    mComandos[QStringLiteral("copiar")] = {QStringLiteral("copiar ORIGEM DESTINO"),
+                                           QStringLiteral("copia os arquivos do caso para outra pasta"), 2,
+                                           [this](const QStringList& a) { return pCopiar(a[0], a[1]); }};
+    mComandos[QStringLiteral("apagar")] = {QStringLiteral("apagar PASTA"),
+                                           QStringLiteral("apaga a pasta do caso com tudo o que ela contém"), 1,
+                                           [this](const QStringList& a) { return pApagar(a[0]); }};
+}
+
+int LinhaDeComando::Executa(const QStringList& argumentos) {
+    if (argumentos.isEmpty() || argumentos[0] == QStringLiteral("--help") || argumentos[0] == QStringLiteral("-h") ||
+        argumentos[0] == QStringLiteral("ajuda")) {
+        pAjuda();
+        return argumentos.isEmpty() ? 2 : 0;
+    }
+    const auto comando = mComandos.find(argumentos[0]);
+    if (comando == mComandos.end()) {
+        mErro << QStringLiteral("halvo: comando desconhecido: %1 (veja halvo --help)").arg(argumentos[0]) << Qt::endl;
+        return 2;
+    }
+    const QStringList resto = argumentos.mid(1);
+    const int esperados = comando->second.argumentos;
+    if ((esperados >= 0 && resto.size() != esperados) || (esperados < 0 && resto.isEmpty())) {
+        mErro << QStringLiteral("halvo: uso: halvo %1").arg(comando->second.uso) << Qt::endl;
+        return 2;
+    }
+    try {
+        return comando->second.executa(resto);
+    } catch (const plataforma::ErroVB& e) {
+        return pFalha(QStringLiteral("erro %1: %2").arg(e.Number()).arg(e.Description()));
+    }
+}
+
+int LinhaDeComando::pAjuda() {
+    mSaida << QStringLiteral("uso: halvo COMANDO [ARGUMENTOS]") << Qt::endl << Qt::endl
+           << QStringLiteral("Comandos:") << Qt::endl;
+    for (const auto& [nome, comando] : mComandos) {
+        mSaida << QStringLiteral("  %1%2").arg(comando.uso, -26).arg(comando.descricao) << Qt::endl;
+    }
+    mSaida << Qt::endl << QStringLiteral("O código de saída é 0 quando o comando termina bem.") << Qt::endl;
+    return 0;
+}
+
+std::unique_ptr<IModelo> LinhaDeComando::pModelo() {
+    auto modelo = mModelos.Cria();
+    if (!modelo) {
+        QString falhas = mModelos.Falhas().join(QStringLiteral("; "));
+        throw plataforma::ErroVB(
+            plataforma::ErroArquivoNaoEncontrado,
+            QStringLiteral("nenhum modelo encontrado em %1%2")
+                .arg(Modelos::PastaPadrao(), falhas.isEmpty() ? QString() : QStringLiteral(" (") + falhas + u')'));
+    }
+    return modelo;
+}
+
+int LinhaDeComando::pInfo() {
+    const auto modelo = pModelo();
+    mSaida << QStringLiteral("Modelo: %1").arg(modelo->Modelo()) << Qt::endl
+           << QStringLiteral("Descrição: %1").arg(modelo->Descricao()) << Qt::endl
+           << QStringLiteral("Versão do modelo: %1").arg(modelo->VersaoModelo()) << Qt::endl
+           << QStringLiteral("Versão da interface: %1").arg(modelo->VersaoInterface()) << Qt::endl
+           << QStringLiteral("Código do modelo: %1").arg(modelo->ModeloCodigo()) << Qt::endl
+           << QStringLiteral("Telas:") << Qt::endl;
+    for (int grupo = 1; grupo <= 4; ++grupo) {
+        const auto telas = modelo->Telas(grupo);
+        if (!telas) {
+            continue;
+        }
+        mSaida << QStringLiteral("  %1").arg(QString::fromUtf16(NomesDosGrupos[grupo - 1])) << Qt::endl;
+        for (std::size_t item = 1; item < telas->size(); ++item) {
+            const EntradaTela& tela = (*telas)[item];
+            if (tela.Flag && item > 1) {
+                mSaida << QStringLiteral("    --") << Qt::endl;
+            }
+            mSaida << QStringLiteral("    %1. %2").arg(item).arg(tela.Titulo) << Qt::endl;
+        }
+    }
+    return 0;
+}
+
+int LinhaDeComando::pCriar(const QString& pasta) {
+    if (pModelo()->CriarCaso(pasta) != 1) {
+        return pFalha(QStringLiteral("não foi possível criar o caso em %1.").arg(pasta));
+    }
+    mSaida << QStringLiteral("Caso criado em %1.").arg(pasta) << Qt::endl;
+    return 0;
+}
+
+int LinhaDeComando::pAbrir(const QString& pasta) {
+    const auto modelo = pModelo();
+    if (modelo->AbrirCaso(std::make_shared<CasoPasta>(pasta), std::make_shared<NotificadorRegistro>()) != 1) {
+        return pFalha(QStringLiteral("não foi possível abrir o caso em %1.").arg(pasta));
+    }
+    modelo->FecharCaso();
+    mSaida << QStringLiteral("Caso aberto e fechado: %1.").arg(pasta) << Qt::endl;
+    return 0;
+}
+
+int LinhaDeComando::pCopiar(const QString& origem, const QString& destino) {
+    const auto modelo = pModelo();
+    if (modelo->AbrirCaso(std::make_shared<CasoPasta>(origem), std::make_shared<NotificadorRegistro>()) != 1) {
+        return pFalha(QStringLiteral("não foi possível abrir o caso em %1.").arg(origem));
+    }
+    QString de = origem;
+    QString para = destino;
+    const bool copiou = modelo->CopiarCaso(de, para) == 1;
+    modelo->FecharCaso();
+    if (!copiou) {
+        return pFalha(QStringLiteral("não foi possível copiar o caso de %1 para %2.").arg(origem, destino));
+    }
+    mSaida << QStringLiteral("Caso copiado de %1 para %2.").arg(de, para) << Qt::endl;
+    return 0;
+}
+
+int LinhaDeComando::pApagar(const QString& pasta) {
+    if (pModelo()->ApagarCaso(pasta) != 1) {
+        return pFalha(QStringLiteral("não foi possível apagar o caso em %1.").arg(pasta));
+    }
+    mSaida << QStringLiteral("Caso apagado: %1.").arg(pasta) << Qt::endl;
+    return 0;
+}
+
+int LinhaDeComando::pFalha(const QString& mensagem) {
+    mErro << QStringLiteral("halvo: ") << mensagem << Qt::endl;
+    return 1;
+}
+
+}  // namespace halvo
