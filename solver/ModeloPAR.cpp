@@ -1,0 +1,204 @@
+#include "solver/ModeloPAR.h"
+
+#include "solver/Estatistica.h"
+#include "solver/SerieSemanal.h"
+
+#include <Eigen/Dense>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace solver {
+
+namespace {
+
+// Innovations are resampled from the week and this many weeks on each side, so that each draw
+// keeps the season's skewness without resting on one week's few years.
+constexpr int semanasVizinhasResiduos = 2;
+// Observations per lag that an autoregression needs before it may use that lag.
+constexpr std::size_t observacoesPorOrdem = 8;
+// A week whose transformed flows hardly vary (a constant series) still standardises.
+constexpr double desvioMinimo = 1e-9;
+// The forecast floor, as a fraction of the week's smallest flow in the fit.
+constexpr double fracaoPiso = 0.5;
+
+std::size_t pVizinha(int semana, int deslocamento, int numSemanas) {
+    return static_cast<std::size_t>(((semana + deslocamento) % numSemanas + numSemanas) % numSemanas);
+}
+
+struct Autorregressao {
+    std::vector<double> phi;
+    double desvioRuido = 1.0;
+};
+
+// Least squares of z[t] on z[t-1..t-p] for the targets given, for every order up to the cap, and
+// the one with the smallest Bayesian information criterion. The cross products are formed once;
+// each order solves its own leading block.
+Autorregressao pEscolheOrdem(const std::vector<double>& z, const std::vector<std::size_t>& alvos) {
+    const auto n = static_cast<double>(alvos.size());
+    const int maxima = std::clamp(static_cast<int>(alvos.size() / observacoesPorOrdem), 0, ordemMaxima);
+    Eigen::MatrixXd xx = Eigen::MatrixXd::Zero(ordemMaxima, ordemMaxima);
+    Eigen::VectorXd xy = Eigen::VectorXd::Zero(ordemMaxima);
+    double yy = 0.0;
+    for (const std::size_t t : alvos) {
+        Eigen::VectorXd x(ordemMaxima);
+        for (int k = 0; k < ordemMaxima; ++k) {
+            x[k] = z[t - 1 - static_cast<std::size_t>(k)];
+        }
+        xx.noalias() += x * x.transpose();
+        xy += x * z[t];
+        yy += z[t] * z[t];
+    }
+    Autorregressao melhor;
+    double melhorCriterio = std::numeric_limits<double>::infinity();
+    for (int p = 0; p <= maxima; ++p) {
+        Eigen::VectorXd b = Eigen::VectorXd::Zero(p);
+        if (p > 0) {
+            b = xx.topLeftCorner(p, p).ldlt().solve(xy.head(p));
+        }
+        const double somaQuadrados = std::max(yy - b.dot(xy.head(p)), 1e-12 * n);
+        const double criterio = n * std::log(somaQuadrados / n) + p * std::log(n);
+        if (criterio < melhorCriterio) {
+            melhorCriterio = criterio;
+            melhor.phi.assign(b.data(), b.data() + p);
+            melhor.desvioRuido = std::sqrt(somaQuadrados / std::max(n - p, 1.0));
+        }
+    }
+    return melhor;
+}
+
+}  // namespace
+
+void avancaEstado(EstadoPassado& passado, double z) {
+    std::copy_backward(passado.begin(), passado.end() - 1, passado.end());
+    passado.front() = z;
+}
+
+ModeloPAR ModeloPAR::ajusta(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo) {
+    ModeloPAR modelo;
+    modelo.tipo_ = tipo;
+    modelo.semanas_.resize(static_cast<std::size_t>(serie.getNumSemanas()));
+    modelo.pAjustaTransformacoes(serie, fim);
+    std::vector<double> z(fim);
+    for (std::size_t t = 0; t < fim; ++t) {
+        z[t] = modelo.padroniza(serie.vazao(t), serie.semana(t));
+    }
+    modelo.pAjustaAutorregressoes(z, fim);
+    return modelo;
+}
+
+void ModeloPAR::pAjustaTransformacoes(const SerieSemanal& serie, std::size_t fim) {
+    const auto numSemanas = semanas_.size();
+    for (std::size_t s = 0; s < numSemanas; ++s) {
+        std::vector<double> vazoes;
+        for (std::size_t t = s; t < fim; t += numSemanas) {
+            vazoes.push_back(serie.vazao(t));
+        }
+        ParametrosSemana& p = semanas_[s];
+        p.transformacao = ajustaTransformacao(tipo_, vazoes);
+        p.vazaoPiso = fracaoPiso * *std::min_element(vazoes.begin(), vazoes.end());
+        std::vector<double> y(vazoes.size());
+        std::transform(vazoes.begin(), vazoes.end(), y.begin(),
+                       [&](double v) { return p.transformacao.aplica(v); });
+        p.media = media(y);
+        p.desvio = std::max(desvioPadrao(y), desvioMinimo);
+    }
+}
+
+void ModeloPAR::pAjustaAutorregressoes(const std::vector<double>& z, std::size_t fim) {
+    const auto numSemanas = semanas_.size();
+    std::vector<std::vector<double>> residuosDaSemana(numSemanas);
+    for (std::size_t s = 0; s < numSemanas; ++s) {
+        std::vector<std::size_t> alvos;
+        // Targets need all lags; the first year's first weeks have none before them.
+        for (std::size_t t = s; t < fim; t += numSemanas) {
+            if (t >= static_cast<std::size_t>(ordemMaxima)) {
+                alvos.push_back(t);
+            }
+        }
+        const Autorregressao ar = pEscolheOrdem(z, alvos);
+        ParametrosSemana& p = semanas_[s];
+        p.phi = ar.phi;
+        p.desvioRuido = std::max(ar.desvioRuido, desvioMinimo);
+        for (const std::size_t t : alvos) {
+            double previsto = 0.0;
+            for (std::size_t k = 0; k < p.phi.size(); ++k) {
+                previsto += p.phi[k] * z[t - 1 - k];
+            }
+            residuosDaSemana[s].push_back((z[t] - previsto) / p.desvioRuido);
+        }
+    }
+    pAgrupaResiduos(residuosDaSemana);
+}
+
+void ModeloPAR::pAgrupaResiduos(const std::vector<std::vector<double>>& residuosDaSemana) {
+    const int numSemanas = getNumSemanas();
+    residuos_.assign(semanas_.size(), {});
+    for (int s = 0; s < numSemanas; ++s) {
+        auto& grupo = residuos_[static_cast<std::size_t>(s)];
+        for (int d = -semanasVizinhasResiduos; d <= semanasVizinhasResiduos; ++d) {
+            const auto& vizinha = residuosDaSemana[pVizinha(s, d, numSemanas)];
+            grupo.insert(grupo.end(), vizinha.begin(), vizinha.end());
+        }
+        if (grupo.empty()) {
+            grupo.push_back(0.0);
+        }
+    }
+}
+
+double ModeloPAR::padroniza(double vazao, int semana) const {
+    const ParametrosSemana& p = getParametros(semana);
+    return (p.transformacao.aplica(vazao) - p.media) / p.desvio;
+}
+
+double ModeloPAR::vazao(double z, int semana) const {
+    const ParametrosSemana& p = getParametros(semana);
+    return std::max(p.transformacao.inverte(p.media + p.desvio * z), p.vazaoPiso);
+}
+
+EstadoPassado ModeloPAR::estado(std::span<const double> vazoes, std::size_t origem) const {
+    EstadoPassado passado{};
+    const auto numSemanas = static_cast<std::size_t>(getNumSemanas());
+    for (std::size_t k = 0; k < passado.size() && k < origem; ++k) {
+        const std::size_t t = origem - 1 - k;
+        passado[k] = padroniza(vazoes[t], static_cast<int>(t % numSemanas));
+    }
+    return passado;
+}
+
+double ModeloPAR::esperado(int semana, const EstadoPassado& passado) const {
+    const ParametrosSemana& p = getParametros(semana);
+    double z = 0.0;
+    for (std::size_t k = 0; k < p.phi.size(); ++k) {
+        z += p.phi[k] * passado[k];
+    }
+    return z;
+}
+
+double ModeloPAR::passo(int semana, EstadoPassado& passado, double inovacao, const Faixa* faixa) const {
+    double z = esperado(semana, passado) + inovacao * getParametros(semana).desvioRuido;
+    double fluxo = vazao(z, semana);
+    if (faixa != nullptr && (fluxo < faixa->inferior || fluxo > faixa->superior)) {
+        fluxo = std::clamp(fluxo, faixa->inferior, faixa->superior);
+        z = padroniza(fluxo, semana);
+    }
+    avancaEstado(passado, z);
+    return fluxo;
+}
+
+Trajetoria ModeloPAR::previsao(std::span<const double> vazoes, std::size_t origem,
+                               const FaixasHorizonte* faixas) const {
+    EstadoPassado passado = estado(vazoes, origem);
+    Trajetoria trajetoria{};
+    for (std::size_t h = 0; h < trajetoria.size(); ++h) {
+        trajetoria[h] = passo(semanaAFrente(origem, h), passado, 0.0, faixas ? &(*faixas)[h] : nullptr);
+    }
+    return trajetoria;
+}
+
+int ModeloPAR::semanaAFrente(std::size_t origem, std::size_t h) const {
+    return static_cast<int>((origem + h) % semanas_.size());
+}
+
+}  // namespace solver

@@ -1,0 +1,94 @@
+#include "solver/Previsao.h"
+
+#include "solver/Falha.h"
+
+#include <algorithm>
+
+namespace solver {
+
+EntradaEstacao leEntrada(const std::filesystem::path& pasta) {
+    EntradaEstacao e{leCaso(pasta), {}, {}, {}};
+    e.vazoes = leVazoesSemanais(pasta / e.dados.arquivoVazoesSemanais, e.dados.numSemanas);
+    if (e.dados.usaVazpast) {
+        e.vazpast = leVazpast(pasta / e.dados.arquivoVazpast, e.dados.codigo);
+    }
+    if (e.dados.flagLimite != 0) {
+        e.limites = leLimites(pasta / e.dados.arquivoLimites, e.dados.numSemanas);
+    }
+    return e;
+}
+
+namespace {
+
+// Position of the first forecast week, counted from week 1 of the file's first year.
+std::size_t pOrigem(const EntradaEstacao& e) {
+    const long long semanas = static_cast<long long>(e.dados.anoInicialPrev - e.vazoes.anoInicial) *
+                                  e.dados.numSemanas +
+                              (e.dados.semanaInicialPrev - 1);
+    if (semanas <= 0) {
+        throw FalhaExecucao(CodigoEstado::historicoCurto,
+                            "A previsão começa antes do primeiro ano do histórico.");
+    }
+    return static_cast<std::size_t>(semanas);
+}
+
+// Flag 1 bounds the simulated paths too; flag 2 only the forecast itself.
+constexpr int limitaModeloEPrevisao = 1;
+
+void pAplicaLimites(PrevisaoEstacao& p, const EntradaEstacao& e, std::size_t origem) {
+    p.limites = calculaLimites(p.serie, p.fimAjuste, *e.limites, e.dados.mesInicial, origem);
+    FaixasHorizonte faixas{};
+    for (std::size_t h = 0; h < horizonte; ++h) {
+        faixas[h] = (*p.limites)[h].faixa;
+    }
+    const Trajetoria livre = p.modelo.previsao(p.serie.getVazoes(), origem);
+    const bool limitaTrajetorias = e.dados.flagLimite == limitaModeloEPrevisao;
+    if (limitaTrajetorias) {
+        p.previsao = p.modelo.previsao(p.serie.getVazoes(), origem, &faixas);
+        Simulador simulador(p.modelo);
+        p.intervalo = simulador.intervalo(p.serie.getVazoes(), origem, e.dados.intervaloConfianca / 100.0,
+                                          Simulador::trajetoriasPadrao, &faixas);
+    }
+    for (std::size_t h = 0; h < horizonte; ++h) {
+        if (!limitaTrajetorias) {
+            p.previsao[h] = std::clamp(livre[h], faixas[h].inferior, faixas[h].superior);
+        }
+        p.limitada[h] = p.previsao[h] != livre[h];
+    }
+}
+
+}  // namespace
+
+PrevisaoEstacao calculaPrevisao(const EntradaEstacao& e) {
+    const std::size_t origem = pOrigem(e);
+    SerieSemanal serie = montaSerie(e.vazoes, e.dados.numSemanas, origem, e.vazpast);
+    serie.preencheLacunas(maximoSemanasInterpoladas);
+    const auto numSemanas = static_cast<std::size_t>(e.dados.numSemanas);
+    const std::size_t fimHistorico =
+        static_cast<std::size_t>(std::max(e.dados.anoFinalHistorico - e.vazoes.anoInicial + 1, 0)) * numSemanas;
+    const std::size_t fimAjuste = std::min(origem, fimHistorico);
+    if (anosDeRetroteste(fimAjuste, e.dados.numSemanas) < 1) {
+        throw FalhaExecucao(CodigoEstado::historicoCurto,
+                            "O histórico tem menos de " + std::to_string(minimoAnosAjuste + 1) +
+                                " anos de vazões até o ano final do histórico; não é possível ajustar "
+                                "o modelo.");
+    }
+    const double confianca = e.dados.intervaloConfianca / 100.0;
+    Escolha escolha = escolheModelo(serie, fimAjuste, candidatas(e.dados.transformacao), confianca);
+    ModeloPAR modelo = ModeloPAR::ajusta(serie, fimAjuste, escolha.candidatos[escolha.escolhido].tipo);
+    PrevisaoEstacao p{std::move(serie), fimAjuste, std::move(escolha), std::move(modelo), {}, {}, {}, {}};
+    p.previsao = p.modelo.previsao(p.serie.getVazoes(), origem);
+    Simulador simulador(p.modelo);
+    p.intervalo = simulador.intervalo(p.serie.getVazoes(), origem, confianca);
+    if (e.limites) {
+        pAplicaLimites(p, e, origem);
+    }
+    // Bounds that the forecast crossed (limits of the forecast alone) widen to hold it.
+    for (std::size_t h = 0; h < horizonte; ++h) {
+        p.intervalo.inferior[h] = std::min(p.intervalo.inferior[h], p.previsao[h]);
+        p.intervalo.superior[h] = std::max(p.intervalo.superior[h], p.previsao[h]);
+    }
+    return p;
+}
+
+}  // namespace solver
