@@ -2,7 +2,7 @@
 
 #include "halvo/app/CasoPasta.h"
 #include "halvo/app/Modelos.h"
-#include "halvo/app/NotificadorRegistro.h"
+#include "halvo/sdk/NotificadorRegistro.h"
 #include "halvo/sdk/IModelo.h"
 #include "platform/runtime/ErroVB.h"
 

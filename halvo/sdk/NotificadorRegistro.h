@@ -6,7 +6,7 @@
 
 namespace halvo {
 
-// Keeps the events that a model sends, for the command line to judge the outcome by.
+// Keeps the events that a model sends, in order: the command line judges an outcome by them.
 class NotificadorRegistro : public Notificador {
 public:
     void Notifica(caso&, std::int32_t evento) override { mEventos.push_back(evento); }
