@@ -1,0 +1,18 @@
+#pragma once
+
+namespace corvalin {
+
+// What a long operation reports its progress to, from 0 to 100: a progress bar, or nothing.
+class Progresso {
+public:
+    virtual ~Progresso() = default;
+    virtual void setValue(double valor) = 0;
+};
+
+// For operations that nobody watches.
+class ProgressoNulo : public Progresso {
+public:
+    void setValue(double) override {}
+};
+
+}  // namespace corvalin
