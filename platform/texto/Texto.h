@@ -48,7 +48,8 @@ QString Str(T x) {
 }
 
 // The text form of a number as screens show it (CStr): the digits of Str without its leading
-// blank, with the decimal separator of the user's locale (QLocale()).
+// blank, with the decimal separator of the user's locale (QLocale()) and the zero before it that
+// Str leaves out ("0,5").
 QString TextoRegional(float x);
 QString TextoRegional(double x);
 // FormatNumber(x, casas): fixed decimals with the locale's separators, digit grouping included.
@@ -72,9 +73,10 @@ float CSng(double x);
 double CDbl(const QString& s);
 
 // Fortran formatting of one field by an edit descriptor: "Fw.d" (w columns, d decimals,
-// right-aligned, "." separator, rounded) and "Iw" (integer, right-aligned). A value that does not
-// fit fills the field with "*". tipo is the host's type code of the value (4 for a 32-bit float,
-// 5 for a 64-bit float); a float is rounded from its own value. An unknown descriptor raises 5.
+// right-aligned, "." separator, rounded) and "Iw" (integer, right-aligned, rounded). A value that
+// does not fit fills the field with "*". tipo is the host's type code of the value (4 for a 32-bit
+// float, 5 for a 64-bit float); the value is rounded half away from zero from the digits Str
+// prints for its type (7 for a 32-bit float, 15 otherwise). An unknown descriptor raises 5.
 QString FormataCampo(double valor, const QString& descritor, int tipo);
 // The number of a fixed field, whatever the locale: blanks around are ignored, "." or "," is the
 // decimal separator, a blank field is 0; any other text raises error 13.
