@@ -1,0 +1,98 @@
+#include "platform/texto/Texto.h"
+
+#include "Apoio.h"
+
+#include <limits>
+#include <utility>
+
+using namespace texto;
+
+namespace {
+
+constexpr int Single = 4;
+constexpr int Double = 5;
+
+struct Caso {
+    double valor;
+    const char* descritor;
+    const char* campo;
+};
+
+}  // namespace
+
+// Layouts as gfortran 12 writes them for a REAL*4.
+TEST(FormataCampo, LaysOutFieldsAsFortran) {
+    // clang-format off
+    const Caso casos[] = {
+        {0.5, "F4.1", " 0.5"},       {0.5, "F3.1", "0.5"},    {0.5, "F2.1", ".5"},    {-0.5, "F4.1", "-0.5"},
+        {-0.5, "F3.1", "-.5"},       {-0.5, "F2.1", "**"},    {100, "F4.1", "****"},  {-10, "F4.1", "****"},
+        {99.96, "F4.1", "****"},     {99.94, "F4.1", "99.9"}, {-0.04, "F4.1", "-0.0"}, {-0.04, "F2.1", "**"},
+        {0, "F4.1", " 0.0"},         {0, "F2.1", ".0"},       {0, "F1.1", "*"},       {0.5, "F3.3", "***"},
+        {0.4, "F5.0", "   0."},      {-0.4, "F5.0", "  -0."}, {0.4, "F1.0", "*"},     {3, "F2.0", "3."},
+        {-12.345, "F6.2", "-12.35"}, {1234567, "F12.3", " 1234567.000"},              {1e30, "F8.1", "********"},
+        {12.5, "f6.2", " 12.50"},    {123, "I4", " 123"},     {123, "I2", "**"},      {-5, "I2", "-5"},
+        {-10, "I2", "**"},           {0, "I1", "0"},          {-0.4, "I2", " 0"},     {7, "i3", "  7"}};
+    // clang-format on
+    for (const auto& [valor, descritor, campo] : casos) {
+        EXPECT_EQ(FormataCampo(valor, descritor, Single), campo) << valor << " " << descritor;
+    }
+}
+
+// Where gfortran rounds the binary value half to even, the host's formatter rounds the printed
+// digits half away from zero: a Single from its 7 digits, a Double from its 15.
+TEST(FormataCampo, RoundsThePrintedDigitsHalfAwayFromZero) {
+    EXPECT_EQ(FormataCampo(0.45f, "F4.1", Single), " 0.5");
+    EXPECT_EQ(FormataCampo(0.45f, "F4.1", Double), " 0.4");
+    EXPECT_EQ(FormataCampo(0.05f, "F4.1", Single), " 0.1");
+    EXPECT_EQ(FormataCampo(0.25, "F4.1", Double), " 0.3");
+    EXPECT_EQ(FormataCampo(-0.25, "F4.1", Double), "-0.3");
+    EXPECT_EQ(FormataCampo(0.125, "F5.2", Double), " 0.13");
+    EXPECT_EQ(FormataCampo(2.5, "I1", Double), "3");
+    EXPECT_EQ(FormataCampo(-2.5, "I2", Double), "-3");
+    EXPECT_EQ(FormataCampo(9.95f, "F3.1", Single), "***");
+    EXPECT_EQ(FormataCampo(1e39, "F6.1", Single), "******");
+    EXPECT_EQ(FormataCampo(std::numeric_limits<double>::quiet_NaN(), "F4.1", Double), "****");
+    EXPECT_EQ(FormataCampo(1e39, "F43.1", Double), " 1" + QString(39, u'0') + ".0");
+}
+
+TEST(FormataCampo, UnknownDescriptorsRaiseError5) {
+    for (const char* descritor :
+         {"F4", "F4.", "F.1", "E10.3", "I3.1", "F0.1", "I0", "", " F4.1", "F4,1", "4.1", "F4.1x"}) {
+        EXPECT_EQ(numeroDoErro([descritor] { FormataCampo(1, descritor, Single); }), 5) << descritor;
+    }
+}
+
+// The limits file: every limit the screen allows is written in 4 columns and read back unchanged.
+TEST(FormataCampo, LimitsSurviveWritingAndReading) {
+    for (int decimos = 1; decimos <= 999; ++decimos) {
+        const float limite = static_cast<float>(decimos / 10.0);
+        const QString campo = FormataCampo(limite, "F4.1", Single);
+        ASSERT_EQ(campo.size(), 4);
+        ASSERT_EQ(static_cast<float>(LeNumero(campo)), limite) << campo.toStdString();
+    }
+}
+
+namespace {
+
+// Fields of the limits file read alike whatever the user's number format.
+void confereLeNumero() {
+    const std::pair<const char*, double> casos[] = {{" 5.0", 5},    {"12,5", 12.5}, {"", 0},   {"    ", 0},
+                                                    {"-.5", -0.5},  {"+3", 3},      {"5.", 5}, {"0.1", 0.1},
+                                                    {"99.9", 99.9}, {" 1,5 ", 1.5}};
+    for (const auto& [campo, valor] : casos) {
+        EXPECT_EQ(LeNumero(campo), valor) << campo;
+    }
+    for (const char* campo : {"1.2.3", "abc", "1 2", "1,2.3", "-", ".", "5-", "1e2", "--1", "1.234,5"}) {
+        EXPECT_EQ(numeroDoErro([campo] { LeNumero(campo); }), 13) << campo;
+    }
+}
+
+}  // namespace
+
+TEST_F(EmC, LeNumeroTakesPointOrCommaAndNothingElse) {
+    confereLeNumero();
+}
+
+TEST_F(EmPortugues, LeNumeroTakesPointOrCommaAndNothingElse) {
+    confereLeNumero();
+}
