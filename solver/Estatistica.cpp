@@ -26,12 +26,14 @@ double quantil(std::vector<double> x, double p) {
     if (x.empty()) {
         return 0.0;
     }
-    std::sort(x.begin(), x.end());
+    // Selection instead of a full sort: only the two order statistics around p are needed.
     const double posicao = std::clamp(p, 0.0, 1.0) * static_cast<double>(x.size() - 1);
     const auto abaixo = static_cast<std::size_t>(std::floor(posicao));
-    const std::size_t acima = std::min(abaixo + 1, x.size() - 1);
-    const double fracao = posicao - static_cast<double>(abaixo);
-    return x[abaixo] + fracao * (x[acima] - x[abaixo]);
+    const auto alvo = x.begin() + static_cast<std::ptrdiff_t>(abaixo);
+    std::nth_element(x.begin(), alvo, x.end());
+    const double inferior = *alvo;
+    const double superior = abaixo + 1 < x.size() ? *std::min_element(alvo + 1, x.end()) : inferior;
+    return inferior + (posicao - static_cast<double>(abaixo)) * (superior - inferior);
 }
 
 }  // namespace solver

@@ -9,7 +9,7 @@ double media(std::span<const double> x);
 // Sample standard deviation (n - 1).
 double desvioPadrao(std::span<const double> x);
 // Empirical quantile with linear interpolation between order statistics (p from 0 to 1);
-// takes a copy because it sorts.
+// takes a copy because it reorders.
 double quantil(std::vector<double> x, double p);
 
 }  // namespace solver

@@ -16,6 +16,11 @@ namespace {
 // Innovations are resampled from the week and this many weeks on each side, so that each draw
 // keeps the season's skewness without resting on one week's few years.
 constexpr int semanasVizinhasResiduos = 2;
+// Each week's autoregression is estimated on its own years and those of the weeks beside it: the
+// coefficients change slowly through the year, and the pooled sample steadies them.
+constexpr int semanasVizinhasAutorregressao = 1;
+// Silverman's factor for the bandwidth of the kernel that smooths the resampled innovations.
+constexpr double fatorSilverman = 0.9;
 // Observations per lag that an autoregression needs before it may use that lag.
 constexpr std::size_t observacoesPorOrdem = 8;
 // A week whose transformed flows hardly vary (a constant series) still standardises.
@@ -30,6 +35,7 @@ std::size_t pVizinha(int semana, int deslocamento, int numSemanas) {
 struct Autorregressao {
     std::vector<double> phi;
     double desvioRuido = 1.0;
+    Eigen::MatrixXd inversaProdutos;  // (X'X)^-1 of the chosen lags, for the leverages
 };
 
 // Least squares of z[t] on z[t-1..t-p] for the targets given, for every order up to the cap, and
@@ -38,11 +44,11 @@ struct Autorregressao {
 Autorregressao pEscolheOrdem(const std::vector<double>& z, const std::vector<std::size_t>& alvos) {
     const auto n = static_cast<double>(alvos.size());
     const int maxima = std::clamp(static_cast<int>(alvos.size() / observacoesPorOrdem), 0, ordemMaxima);
-    Eigen::MatrixXd xx = Eigen::MatrixXd::Zero(ordemMaxima, ordemMaxima);
-    Eigen::VectorXd xy = Eigen::VectorXd::Zero(ordemMaxima);
+    Eigen::Matrix<double, ordemMaxima, ordemMaxima> xx = Eigen::Matrix<double, ordemMaxima, ordemMaxima>::Zero();
+    Eigen::Matrix<double, ordemMaxima, 1> xy = Eigen::Matrix<double, ordemMaxima, 1>::Zero();
     double yy = 0.0;
     for (const std::size_t t : alvos) {
-        Eigen::VectorXd x(ordemMaxima);
+        Eigen::Matrix<double, ordemMaxima, 1> x;
         for (int k = 0; k < ordemMaxima; ++k) {
             x[k] = z[t - 1 - static_cast<std::size_t>(k)];
         }
@@ -63,6 +69,7 @@ Autorregressao pEscolheOrdem(const std::vector<double>& z, const std::vector<std
             melhorCriterio = criterio;
             melhor.phi.assign(b.data(), b.data() + p);
             melhor.desvioRuido = std::sqrt(somaQuadrados / std::max(n - p, 1.0));
+            melhor.inversaProdutos = xx.topLeftCorner(p, p).inverse();
         }
     }
     return melhor;
@@ -111,22 +118,34 @@ void ModeloPAR::pAjustaAutorregressoes(const std::vector<double>& z, std::size_t
     std::vector<std::vector<double>> residuosDaSemana(numSemanas);
     for (std::size_t s = 0; s < numSemanas; ++s) {
         std::vector<std::size_t> alvos;
-        // Targets need all lags; the first year's first weeks have none before them.
-        for (std::size_t t = s; t < fim; t += numSemanas) {
-            if (t >= static_cast<std::size_t>(ordemMaxima)) {
-                alvos.push_back(t);
+        std::vector<std::size_t> daSemana;
+        for (int d = -semanasVizinhasAutorregressao; d <= semanasVizinhasAutorregressao; ++d) {
+            // Targets need all lags; the first year's first weeks have none before them.
+            for (std::size_t t = pVizinha(static_cast<int>(s), d, static_cast<int>(numSemanas)); t < fim;
+                 t += numSemanas) {
+                if (t >= static_cast<std::size_t>(ordemMaxima)) {
+                    alvos.push_back(t);
+                    if (d == 0) {
+                        daSemana.push_back(t);
+                    }
+                }
             }
         }
         const Autorregressao ar = pEscolheOrdem(z, alvos);
         ParametrosSemana& p = semanas_[s];
         p.phi = ar.phi;
         p.desvioRuido = std::max(ar.desvioRuido, desvioMinimo);
-        for (const std::size_t t : alvos) {
+        for (const std::size_t t : daSemana) {
             double previsto = 0.0;
+            Eigen::VectorXd x(static_cast<Eigen::Index>(p.phi.size()));
             for (std::size_t k = 0; k < p.phi.size(); ++k) {
                 previsto += p.phi[k] * z[t - 1 - k];
+                x[static_cast<Eigen::Index>(k)] = z[t - 1 - k];
             }
-            residuosDaSemana[s].push_back((z[t] - previsto) / p.desvioRuido);
+            // A fitted residual is smaller than the error of a new forecast by its leverage;
+            // dividing by sqrt(1 - h) gives back the spread of a new one.
+            const double alavanca = p.phi.empty() ? 0.0 : std::min(x.dot(ar.inversaProdutos * x), 0.9);
+            residuosDaSemana[s].push_back((z[t] - previsto) / (p.desvioRuido * std::sqrt(1.0 - alavanca)));
         }
     }
     pAgrupaResiduos(residuosDaSemana);
@@ -135,6 +154,7 @@ void ModeloPAR::pAjustaAutorregressoes(const std::vector<double>& z, std::size_t
 void ModeloPAR::pAgrupaResiduos(const std::vector<std::vector<double>>& residuosDaSemana) {
     const int numSemanas = getNumSemanas();
     residuos_.assign(semanas_.size(), {});
+    larguraNucleo_.assign(semanas_.size(), 0.0);
     for (int s = 0; s < numSemanas; ++s) {
         auto& grupo = residuos_[static_cast<std::size_t>(s)];
         for (int d = -semanasVizinhasResiduos; d <= semanasVizinhasResiduos; ++d) {
@@ -144,6 +164,10 @@ void ModeloPAR::pAgrupaResiduos(const std::vector<std::vector<double>>& residuos
         if (grupo.empty()) {
             grupo.push_back(0.0);
         }
+        // Resampling a season's few innovations alone leaves gaps between them and cuts the tails
+        // at the largest one seen: a smoothed bootstrap fills both.
+        larguraNucleo_[static_cast<std::size_t>(s)] =
+            fatorSilverman * desvioPadrao(grupo) * std::pow(static_cast<double>(grupo.size()), -0.2);
     }
 }
 

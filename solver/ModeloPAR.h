@@ -67,6 +67,8 @@ public:
     const std::vector<double>& getResiduos(int semana) const {
         return residuos_[static_cast<std::size_t>(semana)];
     }
+    // Kernel bandwidth of the smoothed resampling of those innovations.
+    double getLarguraNucleo(int semana) const { return larguraNucleo_[static_cast<std::size_t>(semana)]; }
 
 private:
     void pAjustaTransformacoes(const SerieSemanal& serie, std::size_t fim);
@@ -76,6 +78,7 @@ private:
     TipoTransformacao tipo_ = TipoTransformacao::nenhuma;
     std::vector<ParametrosSemana> semanas_;
     std::vector<std::vector<double>> residuos_;
+    std::vector<double> larguraNucleo_;
 };
 
 // Moves the state one week on, with the new standardised flow as the nearest.

@@ -13,29 +13,35 @@ int anosDeRetroteste(std::size_t fim, int numSemanas) {
     return std::clamp(anos - minimoAnosAjuste, 0, maximoAnosRetroteste);
 }
 
-Placar retroteste(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, int anos,
-                  std::optional<double> confianca) {
-    Placar placar;
+Retroteste::Retroteste(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, int anos)
+    : serie_(serie), fim_(fim) {
     const auto numSemanas = static_cast<std::size_t>(serie.getNumSemanas());
-    for (std::size_t bloco = static_cast<std::size_t>(anos); bloco >= 1; --bloco) {
+    for (auto bloco = static_cast<std::size_t>(anos); bloco >= 1; --bloco) {
         const std::size_t inicio = fim - bloco * numSemanas;
-        const ModeloPAR modelo = ModeloPAR::ajusta(serie, inicio, tipo);
-        Simulador simulador(modelo);
-        for (std::size_t origem = inicio; origem < inicio + numSemanas && origem < fim; ++origem) {
-            const Trajetoria previsto = modelo.previsao(serie.getVazoes(), origem);
+        blocos_.push_back({inicio, ModeloPAR::ajusta(serie, inicio, tipo)});
+    }
+}
+
+Placar Retroteste::mede(std::optional<double> confianca) const {
+    Placar placar;
+    const auto numSemanas = static_cast<std::size_t>(serie_.getNumSemanas());
+    for (const Bloco& bloco : blocos_) {
+        Simulador simulador(bloco.modelo);
+        for (std::size_t origem = bloco.inicio; origem < bloco.inicio + numSemanas && origem < fim_; ++origem) {
+            const Trajetoria previsto = bloco.modelo.previsao(serie_.getVazoes(), origem);
             std::optional<Intervalo> intervalo;
             if (confianca) {
-                intervalo = simulador.intervalo(serie.getVazoes(), origem, *confianca, trajetoriasRetroteste);
+                intervalo = simulador.intervalo(serie_.getVazoes(), origem, *confianca, trajetoriasRetroteste);
             }
-            for (std::size_t h = 0; h < horizonte && origem + h < fim; ++h) {
+            for (std::size_t h = 0; h < horizonte && origem + h < fim_; ++h) {
                 // Filled weeks are no observations to be scored against.
-                if (!serie.observada(origem + h)) {
+                if (!serie_.observada(origem + h)) {
                     continue;
                 }
-                placar.registra(h, previsto[h], serie.vazao(origem + h));
+                placar.registra(h, previsto[h], serie_.vazao(origem + h));
                 if (intervalo) {
                     placar.registraIntervalo(h, intervalo->inferior[h], intervalo->superior[h],
-                                             serie.vazao(origem + h));
+                                             serie_.vazao(origem + h));
                 }
             }
         }
@@ -47,15 +53,16 @@ Escolha escolheModelo(const SerieSemanal& serie, std::size_t fim, const std::vec
                       double confianca) {
     const int anos = anosDeRetroteste(fim, serie.getNumSemanas());
     Escolha escolha;
+    std::vector<Retroteste> retrotestes;
     for (const TipoTransformacao tipo : tipos) {
-        escolha.candidatos.push_back({tipo, retroteste(serie, fim, tipo, anos)});
+        retrotestes.emplace_back(serie, fim, tipo, anos);
+        escolha.candidatos.push_back({tipo, retrotestes.back().mede()});
         if (escolha.candidatos.back().placar.mapeMedio() <
             escolha.candidatos[escolha.escolhido].placar.mapeMedio()) {
             escolha.escolhido = escolha.candidatos.size() - 1;
         }
     }
-    Candidato& escolhido = escolha.candidatos[escolha.escolhido];
-    escolhido.placar = retroteste(serie, fim, escolhido.tipo, anos, confianca);
+    escolha.candidatos[escolha.escolhido].placar = retrotestes[escolha.escolhido].mede(confianca);
     return escolha;
 }
 

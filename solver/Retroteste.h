@@ -3,6 +3,7 @@
 // Rolling-origin back-test: over each of the last years of the history the model is fitted on the
 // data before that year and forecasts six weeks from every week of it.
 
+#include "solver/ModeloPAR.h"
 #include "solver/Placar.h"
 #include "solver/Transformacao.h"
 
@@ -17,14 +18,31 @@ class SerieSemanal;
 inline constexpr int minimoAnosAjuste = 8;
 inline constexpr int maximoAnosRetroteste = 5;
 // Paths per origin when the back-test also measures the interval's coverage.
-inline constexpr int trajetoriasRetroteste = 250;
+inline constexpr int trajetoriasRetroteste = 100;
 
 // Years of back-test that the positions [0, fim) allow; 0 when the history is too short.
 int anosDeRetroteste(std::size_t fim, int numSemanas);
 
-// confianca (0 to 1), when given, also measures the coverage of the interval.
-Placar retroteste(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, int anos,
-                  std::optional<double> confianca = std::nullopt);
+// The models of a back-test: one for each of the last years before fim, fitted on the data
+// before that year.
+class Retroteste {
+public:
+    Retroteste(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, int anos);
+
+    // Scores the forecasts from every week of those years; confianca (0 to 1), when given, also
+    // measures the coverage of the interval.
+    Placar mede(std::optional<double> confianca = std::nullopt) const;
+
+private:
+    struct Bloco {
+        std::size_t inicio;
+        ModeloPAR modelo;
+    };
+
+    const SerieSemanal& serie_;
+    std::size_t fim_;
+    std::vector<Bloco> blocos_;
+};
 
 struct Candidato {
     TipoTransformacao tipo;

@@ -2,7 +2,19 @@
 
 #include "solver/Estatistica.h"
 
+#include <cmath>
+
 namespace solver {
+
+double Simulador::pNucleoTriangular() {
+    // The sum of two uniforms, centred and scaled to unit variance: a triangular kernel, which
+    // costs one draw of the generator instead of a normal's several.
+    constexpr double escala32 = 1.0 / 4294967296.0;
+    const std::uint64_t bits = gerador_();
+    const double u1 = static_cast<double>(bits >> 32) * escala32;
+    const double u2 = static_cast<double>(bits & 0xFFFFFFFFu) * escala32;
+    return std::sqrt(6.0) * (u1 + u2 - 1.0);
+}
 
 Intervalo Simulador::intervalo(std::span<const double> vazoes, std::size_t origem, double confianca,
                                int trajetorias, const FaixasHorizonte* faixas) {
@@ -17,7 +29,11 @@ Intervalo Simulador::intervalo(std::span<const double> vazoes, std::size_t orige
             const int semana = modelo_.semanaAFrente(origem, h);
             const auto& residuos = modelo_.getResiduos(semana);
             std::uniform_int_distribution<std::size_t> sorteio(0, residuos.size() - 1);
-            porSemana[h][m] = modelo_.passo(semana, passado, residuos[sorteio(gerador_)],
+            // The kernel's jitter is scaled back out, so the smoothing keeps the innovations' variance.
+            const double largura = modelo_.getLarguraNucleo(semana);
+            const double inovacao =
+                (residuos[sorteio(gerador_)] + largura * pNucleoTriangular()) / std::sqrt(1.0 + largura * largura);
+            porSemana[h][m] = modelo_.passo(semana, passado, inovacao,
                                             faixas ? &(*faixas)[h] : nullptr);
         }
     }

@@ -31,6 +31,8 @@ public:
                         int trajetorias = trajetoriasPadrao, const FaixasHorizonte* faixas = nullptr);
 
 private:
+    double pNucleoTriangular();
+
     const ModeloPAR& modelo_;
     std::mt19937_64 gerador_;
 };

@@ -105,7 +105,8 @@ double estimaLambdaBoxCox(std::span<const double> vazoes) {
     double d = a + razao * (b - a);
     double fc = pVerossimilhanca(vazoes, c, somaLog);
     double fd = pVerossimilhanca(vazoes, d, somaLog);
-    constexpr double tolerancia = 1e-3;
+    // Hundredths of the exponent change the transformed flows far less than their sampling noise.
+    constexpr double tolerancia = 1e-2;
     while (b - a > tolerancia) {
         if (fc > fd) {
             b = d;

@@ -4,6 +4,7 @@
 //   bench_skill [--rios PASTA]                  tables and timing
 //   bench_skill [--rios PASTA] --amostras PASTA the demo station files of samples/
 //   bench_skill [--rios PASTA] --semanas PASTA  the weekly series as CSV, for skill_peers.R
+//   bench_skill [--rios PASTA] --tempo          the timing alone
 
 #include "bench/skill/Amostras.h"
 #include "bench/skill/Habilidade.h"
@@ -52,6 +53,9 @@ void imprimeHabilidade(const std::filesystem::path& pastaRios) {
                                     skill::avaliaRio(rio))
                   << std::flush;
     }
+}
+
+void imprimeTempo(const std::filesystem::path& pastaRios) {
     const auto pasta = std::filesystem::temp_directory_path() / "corvalin_bench_skill";
     std::cout << skill::cronometraEstacaoLonga(pastaRios, pasta) << '\n';
     std::filesystem::remove_all(pasta);
@@ -63,9 +67,17 @@ int main(int argc, char** argv) {
     std::filesystem::path pastaRios = CORVALIN_PASTA_RIOS;
     std::filesystem::path amostras;
     std::filesystem::path semanas;
-    for (int i = 1; i + 1 < argc; i += 2) {
+    bool soTempo = false;
+    for (int i = 1; i < argc; ++i) {
         const std::string_view opcao = argv[i];
-        (opcao == "--rios" ? pastaRios : opcao == "--amostras" ? amostras : semanas) = argv[i + 1];
+        if (opcao == "--tempo") {
+            soTempo = true;
+        } else if (i + 1 < argc && (opcao == "--rios" || opcao == "--amostras" || opcao == "--semanas")) {
+            (opcao == "--rios" ? pastaRios : opcao == "--amostras" ? amostras : semanas) = argv[++i];
+        } else {
+            std::fprintf(stderr, "uso: bench_skill [--rios PASTA] [--amostras PASTA | --semanas PASTA | --tempo]\n");
+            return 2;
+        }
     }
     try {
         if (!amostras.empty()) {
@@ -73,7 +85,10 @@ int main(int argc, char** argv) {
         } else if (!semanas.empty()) {
             exportaSemanas(pastaRios, semanas);
         } else {
-            imprimeHabilidade(pastaRios);
+            if (!soTempo) {
+                imprimeHabilidade(pastaRios);
+            }
+            imprimeTempo(pastaRios);
         }
     } catch (const std::exception& x) {
         std::fprintf(stderr, "bench_skill: %s\n", x.what());
