@@ -59,9 +59,10 @@ CodigoEstado executaEstacao(const std::filesystem::path& pasta) {
         // A run that dies half-way must not leave the verdict of the run before it.
         gravaEstado(pasta, CodigoEstado::erroInterno, "A execução do modelo não terminou.");
         pRemove(pasta / "Aviso.txt");
-        const EntradaEstacao entrada = leEntrada(pasta);
-        previsao = pasta / entrada.dados.arquivoPrevisoes;
+        DadosGerais dados = leCaso(pasta);
+        previsao = pasta / dados.arquivoPrevisoes;
         pRemove(previsao);
+        const EntradaEstacao entrada = leEntrada(pasta, std::move(dados));
         const PrevisaoEstacao resultado = calculaPrevisao(entrada);
         pGravaSaidas(pasta, entrada, resultado);
         gravaEstado(pasta, CodigoEstado::sucesso, {});

@@ -6,8 +6,8 @@
 
 namespace solver {
 
-EntradaEstacao leEntrada(const std::filesystem::path& pasta) {
-    EntradaEstacao e{leCaso(pasta), {}, {}, {}};
+EntradaEstacao leEntrada(const std::filesystem::path& pasta, DadosGerais dados) {
+    EntradaEstacao e{std::move(dados), {}, {}, {}};
     e.vazoes = leVazoesSemanais(pasta / e.dados.arquivoVazoesSemanais, e.dados.numSemanas);
     if (e.dados.usaVazpast) {
         e.vazpast = leVazpast(pasta / e.dados.arquivoVazpast, e.dados.codigo);

@@ -27,7 +27,7 @@ struct EntradaEstacao {
 };
 
 // Reads every file the general data names, from the station folder. Throws FalhaExecucao.
-EntradaEstacao leEntrada(const std::filesystem::path& pasta);
+EntradaEstacao leEntrada(const std::filesystem::path& pasta, DadosGerais dados);
 
 struct PrevisaoEstacao {
     SerieSemanal serie;
