@@ -13,9 +13,9 @@ namespace {
 std::vector<std::string> pLeObrigatorio(const std::filesystem::path& arquivo, const std::string& tipo) {
     auto linhas = leLinhas(arquivo);
     if (!linhas) {
-        throw FalhaExecucao(CodigoEstado::entradaInvalida,
-                            "O arquivo de " + tipo + " " + arquivo.filename().string() +
-                                " não foi encontrado.");
+        throw FalhaExecucao(
+            CodigoEstado::entradaInvalida,
+            "O arquivo de " + tipo + " " + arquivo.filename().string() + " não foi encontrado.");
     }
     return std::move(*linhas);
 }
@@ -177,8 +177,8 @@ ArquivoLimites leLimites(const std::filesystem::path& arquivo, int numSemanas) {
     if (falta != l.inferior.end()) {
         throw FalhaExecucao(CodigoEstado::limitesInvalidos,
                             "O arquivo de limites " + arquivo.filename().string() +
-                                " não informa o período " +
-                                std::to_string(falta - l.inferior.begin() + 1) + ".");
+                                " não informa o período " + std::to_string(falta - l.inferior.begin() + 1) +
+                                ".");
     }
     return l;
 }

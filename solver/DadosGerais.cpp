@@ -26,8 +26,7 @@ public:
         if (!valor || *valor < minimo || *valor > maximo) {
             throw FalhaExecucao(CodigoEstado::entradaInvalida,
                                 "Valor inválido de " + std::string(significado) + " na linha " +
-                                    std::to_string(numero) + " do arquivo de dados gerais " +
-                                    arquivo_ + ".");
+                                    std::to_string(numero) + " do arquivo de dados gerais " + arquivo_ + ".");
         }
         return *valor;
     }
@@ -36,9 +35,8 @@ public:
         std::string valor = texto(numero);
         if (valor.empty()) {
             throw FalhaExecucao(CodigoEstado::entradaInvalida,
-                                "Falta o nome do arquivo de " + std::string(significado) +
-                                    " na linha " + std::to_string(numero) +
-                                    " do arquivo de dados gerais " + arquivo_ + ".");
+                                "Falta o nome do arquivo de " + std::string(significado) + " na linha " +
+                                    std::to_string(numero) + " do arquivo de dados gerais " + arquivo_ + ".");
         }
         return valor;
     }

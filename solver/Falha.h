@@ -9,9 +9,9 @@ namespace solver {
 
 enum class CodigoEstado : int {
     sucesso = 0,
-    entradaInvalida = 1,  // a file missing, unreadable or malformed
-    historicoCurto = 2,   // too few years to fit, or no flows right before the forecast
-    limitesInvalidos = 3, // the limits file out of range
+    entradaInvalida = 1,   // a file missing, unreadable or malformed
+    historicoCurto = 2,    // too few years to fit, or no flows right before the forecast
+    limitesInvalidos = 3,  // the limits file out of range
     erroInterno = 9,
 };
 

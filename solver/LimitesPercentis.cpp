@@ -40,7 +40,8 @@ std::array<LimitesDaSemana, horizonte> calculaLimites(const SerieSemanal& serie,
     std::array<LimitesDaSemana, horizonte> resultado{};
     for (std::size_t h = 0; h < horizonte; ++h) {
         LimitesDaSemana& l = resultado[h];
-        l.periodo = periodoDaSemana(static_cast<int>((origem + h) % numSemanas), limites.agrupamento, mesInicial);
+        l.periodo =
+            periodoDaSemana(static_cast<int>((origem + h) % numSemanas), limites.agrupamento, mesInicial);
         std::vector<double> anteriores;
         std::vector<double> vazoes;
         for (std::size_t t = 1; t < fim; ++t) {

@@ -18,7 +18,7 @@ int periodoDaSemana(int semana, Agrupamento agrupamento, int mesInicial);
 
 struct LimitesDaSemana {
     Faixa faixa;
-    int periodo = 0;  // from 0
+    int periodo = 0;         // from 0
     int faixaMagnitude = 0;  // from 0
 };
 

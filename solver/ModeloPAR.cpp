@@ -44,7 +44,8 @@ struct Autorregressao {
 Autorregressao pEscolheOrdem(const std::vector<double>& z, const std::vector<std::size_t>& alvos) {
     const auto n = static_cast<double>(alvos.size());
     const int maxima = std::clamp(static_cast<int>(alvos.size() / observacoesPorOrdem), 0, ordemMaxima);
-    Eigen::Matrix<double, ordemMaxima, ordemMaxima> xx = Eigen::Matrix<double, ordemMaxima, ordemMaxima>::Zero();
+    Eigen::Matrix<double, ordemMaxima, ordemMaxima> xx =
+        Eigen::Matrix<double, ordemMaxima, ordemMaxima>::Zero();
     Eigen::Matrix<double, ordemMaxima, 1> xy = Eigen::Matrix<double, ordemMaxima, 1>::Zero();
     double yy = 0.0;
     for (const std::size_t t : alvos) {

@@ -29,9 +29,9 @@ using FaixasHorizonte = std::array<Faixa, horizonte>;
 
 struct ParametrosSemana {
     TransformacaoSemana transformacao;
-    double media = 0.0;   // of the transformed flows
-    double desvio = 1.0;  // of the transformed flows
-    std::vector<double> phi;  // phi[k - 1] weighs the standardised flow k weeks before
+    double media = 0.0;        // of the transformed flows
+    double desvio = 1.0;       // of the transformed flows
+    std::vector<double> phi;   // phi[k - 1] weighs the standardised flow k weeks before
     double desvioRuido = 1.0;  // of the innovation, in standardised units
     double vazaoPiso = 0.0;    // no forecast falls below it
 };
@@ -46,7 +46,9 @@ public:
 
     TipoTransformacao getTipo() const { return tipo_; }
     int getNumSemanas() const { return static_cast<int>(semanas_.size()); }
-    const ParametrosSemana& getParametros(int semana) const { return semanas_[static_cast<std::size_t>(semana)]; }
+    const ParametrosSemana& getParametros(int semana) const {
+        return semanas_[static_cast<std::size_t>(semana)];
+    }
 
     double padroniza(double vazao, int semana) const;
     // Back to a flow, never below the week's floor.

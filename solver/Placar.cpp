@@ -24,11 +24,17 @@ void Placar::registraIntervalo(std::size_t h, double inferior, double superior, 
     ++intervalos_[h];
 }
 
-double Placar::mape(std::size_t h) const { return pRazao(somaErroPercentual_[h], casos_[h]); }
+double Placar::mape(std::size_t h) const {
+    return pRazao(somaErroPercentual_[h], casos_[h]);
+}
 
-double Placar::rmse(std::size_t h) const { return std::sqrt(pRazao(somaQuadrados_[h], casos_[h])); }
+double Placar::rmse(std::size_t h) const {
+    return std::sqrt(pRazao(somaQuadrados_[h], casos_[h]));
+}
 
-double Placar::cobertura(std::size_t h) const { return 100.0 * pRazao(static_cast<double>(dentro_[h]), intervalos_[h]); }
+double Placar::cobertura(std::size_t h) const {
+    return 100.0 * pRazao(static_cast<double>(dentro_[h]), intervalos_[h]);
+}
 
 double Placar::mapeMedio() const {
     double soma = 0.0;

@@ -22,9 +22,9 @@ namespace {
 
 // Position of the first forecast week, counted from week 1 of the file's first year.
 std::size_t pOrigem(const EntradaEstacao& e) {
-    const long long semanas = static_cast<long long>(e.dados.anoInicialPrev - e.vazoes.anoInicial) *
-                                  e.dados.numSemanas +
-                              (e.dados.semanaInicialPrev - 1);
+    const long long semanas =
+        static_cast<long long>(e.dados.anoInicialPrev - e.vazoes.anoInicial) * e.dados.numSemanas +
+        (e.dados.semanaInicialPrev - 1);
     if (semanas <= 0) {
         throw FalhaExecucao(CodigoEstado::historicoCurto,
                             "A previsão começa antes do primeiro ano do histórico.");
@@ -35,28 +35,6 @@ std::size_t pOrigem(const EntradaEstacao& e) {
 // Flag 1 bounds the simulated paths too; flag 2 only the forecast itself.
 constexpr int limitaModeloEPrevisao = 1;
 
-void pAplicaLimites(PrevisaoEstacao& p, const EntradaEstacao& e, std::size_t origem) {
-    p.limites = calculaLimites(p.serie, p.fimAjuste, *e.limites, e.dados.mesInicial, origem);
-    FaixasHorizonte faixas{};
-    for (std::size_t h = 0; h < horizonte; ++h) {
-        faixas[h] = (*p.limites)[h].faixa;
-    }
-    const Trajetoria livre = p.modelo.previsao(p.serie.getVazoes(), origem);
-    const bool limitaTrajetorias = e.dados.flagLimite == limitaModeloEPrevisao;
-    if (limitaTrajetorias) {
-        p.previsao = p.modelo.previsao(p.serie.getVazoes(), origem, &faixas);
-        Simulador simulador(p.modelo);
-        p.intervalo = simulador.intervalo(p.serie.getVazoes(), origem, e.dados.intervaloConfianca / 100.0,
-                                          Simulador::trajetoriasPadrao, &faixas);
-    }
-    for (std::size_t h = 0; h < horizonte; ++h) {
-        if (!limitaTrajetorias) {
-            p.previsao[h] = std::clamp(livre[h], faixas[h].inferior, faixas[h].superior);
-        }
-        p.limitada[h] = p.previsao[h] != livre[h];
-    }
-}
-
 }  // namespace
 
 PrevisaoEstacao calculaPrevisao(const EntradaEstacao& e) {
@@ -65,7 +43,8 @@ PrevisaoEstacao calculaPrevisao(const EntradaEstacao& e) {
     serie.preencheLacunas(maximoSemanasInterpoladas);
     const auto numSemanas = static_cast<std::size_t>(e.dados.numSemanas);
     const std::size_t fimHistorico =
-        static_cast<std::size_t>(std::max(e.dados.anoFinalHistorico - e.vazoes.anoInicial + 1, 0)) * numSemanas;
+        static_cast<std::size_t>(std::max(e.dados.anoFinalHistorico - e.vazoes.anoInicial + 1, 0)) *
+        numSemanas;
     const std::size_t fimAjuste = std::min(origem, fimHistorico);
     if (anosDeRetroteste(fimAjuste, e.dados.numSemanas) < 1) {
         throw FalhaExecucao(CodigoEstado::historicoCurto,
@@ -77,14 +56,27 @@ PrevisaoEstacao calculaPrevisao(const EntradaEstacao& e) {
     Escolha escolha = escolheModelo(serie, fimAjuste, candidatas(e.dados.transformacao), confianca);
     ModeloPAR modelo = ModeloPAR::ajusta(serie, fimAjuste, escolha.candidatos[escolha.escolhido].tipo);
     PrevisaoEstacao p{std::move(serie), fimAjuste, std::move(escolha), std::move(modelo), {}, {}, {}, {}};
-    p.previsao = p.modelo.previsao(p.serie.getVazoes(), origem);
-    Simulador simulador(p.modelo);
-    p.intervalo = simulador.intervalo(p.serie.getVazoes(), origem, confianca);
+    const std::vector<double>& vazoes = p.serie.getVazoes();
+    FaixasHorizonte faixas{};
     if (e.limites) {
-        pAplicaLimites(p, e, origem);
+        p.limites = calculaLimites(p.serie, p.fimAjuste, *e.limites, e.dados.mesInicial, origem);
+        for (std::size_t h = 0; h < horizonte; ++h) {
+            faixas[h] = (*p.limites)[h].faixa;
+        }
     }
-    // Bounds that the forecast crossed (limits of the forecast alone) widen to hold it.
+    const bool limitaModelo = e.limites && e.dados.flagLimite == limitaModeloEPrevisao;
+    const FaixasHorizonte* faixasDoModelo = limitaModelo ? &faixas : nullptr;
+    const Trajetoria livre = p.modelo.previsao(vazoes, origem);
+    p.previsao = p.modelo.previsao(vazoes, origem, faixasDoModelo);
+    Simulador simulador(p.modelo);
+    p.intervalo =
+        simulador.intervalo(vazoes, origem, confianca, Simulador::trajetoriasPadrao, faixasDoModelo);
     for (std::size_t h = 0; h < horizonte; ++h) {
+        if (e.limites && !limitaModelo) {
+            p.previsao[h] = std::clamp(p.previsao[h], faixas[h].inferior, faixas[h].superior);
+        }
+        p.limitada[h] = p.previsao[h] != livre[h];
+        // Bounds that the forecast crossed (limits of the forecast alone) widen to hold it.
         p.intervalo.inferior[h] = std::min(p.intervalo.inferior[h], p.previsao[h]);
         p.intervalo.superior[h] = std::max(p.intervalo.superior[h], p.previsao[h]);
     }

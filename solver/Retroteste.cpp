@@ -27,11 +27,13 @@ Placar Retroteste::mede(std::optional<double> confianca) const {
     const auto numSemanas = static_cast<std::size_t>(serie_.getNumSemanas());
     for (const Bloco& bloco : blocos_) {
         Simulador simulador(bloco.modelo);
-        for (std::size_t origem = bloco.inicio; origem < bloco.inicio + numSemanas && origem < fim_; ++origem) {
+        for (std::size_t origem = bloco.inicio; origem < bloco.inicio + numSemanas && origem < fim_;
+             ++origem) {
             const Trajetoria previsto = bloco.modelo.previsao(serie_.getVazoes(), origem);
             std::optional<Intervalo> intervalo;
             if (confianca) {
-                intervalo = simulador.intervalo(serie_.getVazoes(), origem, *confianca, trajetoriasRetroteste);
+                intervalo =
+                    simulador.intervalo(serie_.getVazoes(), origem, *confianca, trajetoriasRetroteste);
             }
             for (std::size_t h = 0; h < horizonte && origem + h < fim_; ++h) {
                 // Filled weeks are no observations to be scored against.

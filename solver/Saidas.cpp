@@ -54,8 +54,8 @@ void pAcrescentaCandidatos(std::vector<std::string>& r, const PrevisaoEstacao& p
     r.push_back(cabecalho);
     for (std::size_t i = 0; i < p.escolha.candidatos.size(); ++i) {
         const Candidato& c = p.escolha.candidatos[i];
-        std::string linha = aEsquerda("  " + nomeTransformacao(c.tipo), 22) +
-                            numero("%10.2f%%", c.placar.mapeMedio());
+        std::string linha =
+            aEsquerda("  " + nomeTransformacao(c.tipo), 22) + numero("%10.2f%%", c.placar.mapeMedio());
         for (std::size_t h = 0; h < horizonte; ++h) {
             linha += numero("%8.2f%%", c.placar.mape(h));
         }
@@ -118,8 +118,9 @@ std::vector<std::string> textoPrevisao(const EntradaEstacao& e, const PrevisaoEs
         semanas += aDireita(std::to_string(semanaPrevista(e.dados, h).semana), larguraCampo);
     }
     return {"Previsão de vazões semanais do posto " + std::to_string(e.dados.codigo) + " - " + e.vazoes.nome,
-            "Intervalo de confiança de " + numero("%.0f", e.dados.intervaloConfianca) + "%, a partir da semana " +
-                std::to_string(e.dados.semanaInicialPrev) + " de " + std::to_string(e.dados.anoInicialPrev),
+            "Intervalo de confiança de " + numero("%.0f", e.dados.intervaloConfianca) +
+                "%, a partir da semana " + std::to_string(e.dados.semanaInicialPrev) + " de " +
+                std::to_string(e.dados.anoInicialPrev),
             semanas,
             pLinhaValores("Previsão", p.previsao),
             pLinhaValores("Limite Inferior", p.intervalo.inferior),
@@ -140,11 +141,13 @@ std::vector<std::string> textoRelatorio(const EntradaEstacao& e, const PrevisaoE
         "Última vazão observada: " + pDescricaoSemana(p.serie, p.serie.tamanho() - 1),
         "Vazpast: " + (e.vazpast ? d.arquivoVazpast + ", vazões das 4 semanas anteriores à previsão"
                                  : std::string("não usado")),
-        "Limites: " + (e.limites ? d.arquivoLimites + (d.flagLimite == 1 ? " (Modelo e Previsão)" : " (Previsão)")
-                                 : std::string("não usados")),
+        "Limites: " + (e.limites
+                           ? d.arquivoLimites + (d.flagLimite == 1 ? " (Modelo e Previsão)" : " (Previsão)")
+                           : std::string("não usados")),
     };
     if (pAnosAjuste(p) < anosHistoricoCurto) {
-        r.push_back("Atenção: histórico curto, com menos de " + std::to_string(anosHistoricoCurto) + " anos.");
+        r.push_back("Atenção: histórico curto, com menos de " + std::to_string(anosHistoricoCurto) +
+                    " anos.");
     }
     r.push_back("");
     r.push_back("Semanas sem vazão preenchidas: " + std::to_string(pSemanasPreenchidas(p.serie)));
@@ -157,8 +160,10 @@ std::vector<std::string> textoRelatorio(const EntradaEstacao& e, const PrevisaoE
     pAcrescentaCandidatos(r, p);
     r.push_back("");
     r.push_back("Modelo escolhido: autorregressivo periódico, transformação " +
-                nomeTransformacao(p.tipoEscolhido()) + ", ordem de cada semana pelo critério de "
-                "informação bayesiano (até " + std::to_string(ordemMaxima) + ").");
+                nomeTransformacao(p.tipoEscolhido()) +
+                ", ordem de cada semana pelo critério de "
+                "informação bayesiano (até " +
+                std::to_string(ordemMaxima) + ").");
     if (d.imprimeParametros) {
         r.push_back("");
         pAcrescentaParametros(r, p);
@@ -214,7 +219,8 @@ std::vector<std::string> textoAviso(const EntradaEstacao& e, const PrevisaoEstac
     }
     if (const std::size_t preenchidas = pSemanasPreenchidas(p.serie); preenchidas > 0) {
         motivos.push_back("semanas sem vazão preenchidas");
-        detalhes.push_back(std::to_string(preenchidas) + " semana(s) sem vazão foram preenchidas; veja o relatório.");
+        detalhes.push_back(std::to_string(preenchidas) +
+                           " semana(s) sem vazão foram preenchidas; veja o relatório.");
     }
     if (const std::string limitadas = pSemanasLimitadas(e, p); !limitadas.empty()) {
         motivos.push_back("previsão limitada");

@@ -59,9 +59,9 @@ void SerieSemanal::pPreencheComMediana(const Lacuna& lacuna) {
             }
         }
         if (mesmaSemana.empty()) {
-            throw FalhaExecucao(CodigoEstado::historicoCurto,
-                                "Não há vazão observada na semana " + std::to_string(semana(t) + 1) +
-                                    " de nenhum ano do histórico.");
+            throw FalhaExecucao(CodigoEstado::historicoCurto, "Não há vazão observada na semana " +
+                                                                  std::to_string(semana(t) + 1) +
+                                                                  " de nenhum ano do histórico.");
         }
         vazoes_[t] = quantil(mesmaSemana, 0.5);
     }

@@ -31,10 +31,9 @@ Intervalo Simulador::intervalo(std::span<const double> vazoes, std::size_t orige
             std::uniform_int_distribution<std::size_t> sorteio(0, residuos.size() - 1);
             // The kernel's jitter is scaled back out, so the smoothing keeps the innovations' variance.
             const double largura = modelo_.getLarguraNucleo(semana);
-            const double inovacao =
-                (residuos[sorteio(gerador_)] + largura * pNucleoTriangular()) / std::sqrt(1.0 + largura * largura);
-            porSemana[h][m] = modelo_.passo(semana, passado, inovacao,
-                                            faixas ? &(*faixas)[h] : nullptr);
+            const double inovacao = (residuos[sorteio(gerador_)] + largura * pNucleoTriangular()) /
+                                    std::sqrt(1.0 + largura * largura);
+            porSemana[h][m] = modelo_.passo(semana, passado, inovacao, faixas ? &(*faixas)[h] : nullptr);
         }
     }
     Intervalo intervalo;

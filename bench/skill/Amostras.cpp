@@ -12,7 +12,9 @@ namespace {
 constexpr int maximoAlgarismos = 5;
 constexpr std::size_t larguraVazao = 6;
 
-std::string pNomeArquivo(int codigo, const char* extensao) { return std::to_string(codigo) + "." + extensao; }
+std::string pNomeArquivo(int codigo, const char* extensao) {
+    return std::to_string(codigo) + "." + extensao;
+}
 
 // The weeks of the station: all complete years, then the last year up to the week before the
 // forecast.
@@ -51,18 +53,19 @@ void pGeraDadosGerais(const EstacaoAmostra& e, int anoFinal, const std::filesyst
     const std::string ano = std::to_string(anoFinal);
     // A station without limits reads back its switch line as the limits file's name, so "0" on
     // both lines is what a round trip through the plug-in leaves.
-    solver::gravaLinhas(pasta / pNomeArquivo(e.codigo, "arq"),
-                        {pNomeArquivo(e.codigo, "rel"), e.imprimeParametros ? "S" : "N",
-                         pNomeArquivo(e.codigo, "dat"), std::to_string(e.transformacao), "1",
-                         pNomeArquivo(e.codigo, "prv"), pNomeArquivo(e.codigo, "exc"), "95",
-                         std::to_string(e.semanaInicialPrev), ano, e.usaVazpast ? "0" : "1",
-                         e.usaVazpast ? "Vazpast.dat" : "", ano, std::to_string(e.codigo),
-                         e.usaLimites ? "1" : "0", e.usaLimites ? pNomeArquivo(e.codigo, "lim") : "0", "0"});
+    solver::gravaLinhas(
+        pasta / pNomeArquivo(e.codigo, "arq"),
+        {pNomeArquivo(e.codigo, "rel"), e.imprimeParametros ? "S" : "N", pNomeArquivo(e.codigo, "dat"),
+         std::to_string(e.transformacao), "1", pNomeArquivo(e.codigo, "prv"), pNomeArquivo(e.codigo, "exc"),
+         "95", std::to_string(e.semanaInicialPrev), ano, e.usaVazpast ? "0" : "1",
+         e.usaVazpast ? "Vazpast.dat" : "", ano, std::to_string(e.codigo), e.usaLimites ? "1" : "0",
+         e.usaLimites ? pNomeArquivo(e.codigo, "lim") : "0", "0"});
 }
 
 // Vazpast: three empty lines, the code right-aligned in 5 and padded to 20, then the four past
 // flows (nearest first) with two decimals, each left-aligned in 10.
-void pGeraVazpast(const EstacaoAmostra& e, const std::vector<double>& ultimoAno, const std::filesystem::path& pasta) {
+void pGeraVazpast(const EstacaoAmostra& e, const std::vector<double>& ultimoAno,
+                  const std::filesystem::path& pasta) {
     std::string linha = solver::aEsquerda(solver::aDireita(std::to_string(e.codigo), 5), 20);
     for (std::size_t k = 1; k <= 4; ++k) {
         linha += solver::aEsquerda(solver::numero("%.2f", ultimoAno[ultimoAno.size() - k]), 10);
@@ -74,8 +77,8 @@ void pGeraVazpast(const EstacaoAmostra& e, const std::vector<double>& ultimoAno,
 void pGeraLimites(const EstacaoAmostra& e, const std::filesystem::path& pasta) {
     std::vector<std::string> linhas = {"2 ", "2 "};
     for (int mes = 1; mes <= 12; ++mes) {
-        linhas.push_back(solver::aEsquerda(std::to_string(mes), 2) + " " + solver::numero("%4.1f", 2.0) + " " +
-                         solver::numero("%4.1f", 98.0));
+        linhas.push_back(solver::aEsquerda(std::to_string(mes), 2) + " " + solver::numero("%4.1f", 2.0) +
+                         " " + solver::numero("%4.1f", 98.0));
     }
     solver::gravaLinhas(pasta / pNomeArquivo(e.codigo, "lim"), linhas);
 }

@@ -15,10 +15,10 @@ struct EstacaoAmostra {
     int codigo;
     std::string arquivoRio;  // in the rivers folder
     std::string nome;
-    std::string area;        // as the plug-in prints it
+    std::string area;  // as the plug-in prints it
     int transformacao;
     bool imprimeParametros;
-    int semanaInicialPrev;   // the history ends the week before
+    int semanaInicialPrev;  // the history ends the week before
     bool usaVazpast;
     bool usaLimites;
 };

@@ -23,7 +23,8 @@ struct Avaliacao {
     std::size_t fim;  // first held-out week
 
     // Runs forecast(origin) -> (point, lower, upper) over every held-out origin.
-    solver::Placar mede(const std::function<void(std::size_t, solver::Trajetoria&, solver::Intervalo&)>& previsor) const {
+    solver::Placar mede(
+        const std::function<void(std::size_t, solver::Trajetoria&, solver::Intervalo&)>& previsor) const {
         solver::Placar placar;
         for (std::size_t origem = fim; origem < serie.tamanho(); ++origem) {
             solver::Trajetoria previsto{};
@@ -93,8 +94,10 @@ struct Avaliacao {
 };
 
 std::string pTabela(const char* titulo, const std::vector<Metodo>& metodos,
-                    const std::function<double(const solver::Placar&, std::size_t)>& medida, const char* formato) {
-    std::string t = std::string("| ") + titulo + " | 1 | 2 | 3 | 4 | 5 | 6 |\n|---|---|---|---|---|---|---|\n";
+                    const std::function<double(const solver::Placar&, std::size_t)>& medida,
+                    const char* formato) {
+    std::string t =
+        std::string("| ") + titulo + " | 1 | 2 | 3 | 4 | 5 | 6 |\n|---|---|---|---|---|---|---|\n";
     for (const Metodo& m : metodos) {
         t += "| " + m.nome + " |";
         for (std::size_t h = 0; h < horizonte; ++h) {
@@ -128,12 +131,14 @@ std::vector<Metodo> avaliaRio(const RioSemanal& rio) {
 
 std::string tabelas(const std::string& rio, const std::vector<Metodo>& metodos) {
     std::string t = "### " + rio + "\n\n";
-    t += pTabela("MAPE (%) por semana à frente", metodos,
-                 [](const solver::Placar& p, std::size_t h) { return p.mape(h); }, "%.1f");
-    t += pTabela("RMSE (m³/s)", metodos, [](const solver::Placar& p, std::size_t h) { return p.rmse(h); },
-                 "%.4g");
-    t += pTabela("Cobertura do intervalo de 95% (%)", metodos,
-                 [](const solver::Placar& p, std::size_t h) { return p.cobertura(h); }, "%.1f");
+    t += pTabela(
+        "MAPE (%) por semana à frente", metodos,
+        [](const solver::Placar& p, std::size_t h) { return p.mape(h); }, "%.1f");
+    t += pTabela(
+        "RMSE (m³/s)", metodos, [](const solver::Placar& p, std::size_t h) { return p.rmse(h); }, "%.4g");
+    t += pTabela(
+        "Cobertura do intervalo de 95% (%)", metodos,
+        [](const solver::Placar& p, std::size_t h) { return p.cobertura(h); }, "%.1f");
     const solver::Placar& nosso = metodos[0].placar;
     std::string falhas;
     for (std::size_t h = 0; h < horizonte; ++h) {

@@ -1,8 +1,8 @@
 #include "bench/skill/RiosSemanais.h"
 
-#include <fstream>
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
 #include <map>
 #include <stdexcept>
 
@@ -10,7 +10,9 @@ namespace skill {
 
 namespace {
 
-bool pBissexto(int ano) { return (ano % 4 == 0 && ano % 100 != 0) || ano % 400 == 0; }
+bool pBissexto(int ano) {
+    return (ano % 4 == 0 && ano % 100 != 0) || ano % 400 == 0;
+}
 
 int pDiaDoAno(int ano, int mes, int dia) {
     static constexpr int acumulado[] = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334};
@@ -29,7 +31,9 @@ int pDiasDaSemana(int ano, int semana) {
 
 }  // namespace
 
-int semanaDoDia(int diaDoAno) { return std::min((diaDoAno - 1) / 7 + 1, semanasPorAno); }
+int semanaDoDia(int diaDoAno) {
+    return std::min((diaDoAno - 1) / 7 + 1, semanasPorAno);
+}
 
 int RioSemanal::anosCompletos() const {
     int n = 0;

@@ -17,7 +17,8 @@ constexpr int execucoes = 20;
 
 }  // namespace
 
-std::string cronometraEstacaoLonga(const std::filesystem::path& pastaRios, const std::filesystem::path& pasta) {
+std::string cronometraEstacaoLonga(const std::filesystem::path& pastaRios,
+                                   const std::filesystem::path& pasta) {
     // The longest river, its first years repeated at the end up to 90 years; the station uses every
     // candidate transformation, a Vazpast and limits on the model's paths, the costliest road.
     RioSemanal rio = leRio(pastaRios / "fraser_hope.csv");
@@ -37,10 +38,11 @@ std::string cronometraEstacaoLonga(const std::filesystem::path& pastaRios, const
         }
         tempos.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - inicio).count());
     }
-    return "Estação de " + std::to_string(anosEstacaoLonga) + " anos (transformação 5, Vazpast, limites 1): " +
-           "mediana " + solver::numero("%.1f", 1000.0 * solver::quantil(tempos, 0.5)) + " ms, pior " +
-           solver::numero("%.1f", 1000.0 * solver::quantil(tempos, 1.0)) + " ms em " + std::to_string(execucoes) +
-           " execuções.";
+    return "Estação de " + std::to_string(anosEstacaoLonga) +
+           " anos (transformação 5, Vazpast, limites 1): " + "mediana " +
+           solver::numero("%.1f", 1000.0 * solver::quantil(tempos, 0.5)) + " ms, pior " +
+           solver::numero("%.1f", 1000.0 * solver::quantil(tempos, 1.0)) + " ms em " +
+           std::to_string(execucoes) + " execuções.";
 }
 
 }  // namespace skill

@@ -11,6 +11,7 @@ namespace skill {
 inline constexpr int anosEstacaoLonga = 90;
 
 // Builds the station in pasta and returns a line with the median and worst time of the runs.
-std::string cronometraEstacaoLonga(const std::filesystem::path& pastaRios, const std::filesystem::path& pasta);
+std::string cronometraEstacaoLonga(const std::filesystem::path& pastaRios,
+                                   const std::filesystem::path& pasta);
 
 }  // namespace skill

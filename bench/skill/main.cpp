@@ -75,7 +75,8 @@ int main(int argc, char** argv) {
         } else if (i + 1 < argc && (opcao == "--rios" || opcao == "--amostras" || opcao == "--semanas")) {
             (opcao == "--rios" ? pastaRios : opcao == "--amostras" ? amostras : semanas) = argv[++i];
         } else {
-            std::fprintf(stderr, "uso: bench_skill [--rios PASTA] [--amostras PASTA | --semanas PASTA | --tempo]\n");
+            std::fprintf(stderr,
+                         "uso: bench_skill [--rios PASTA] [--amostras PASTA | --semanas PASTA | --tempo]\n");
             return 2;
         }
     }

@@ -57,7 +57,8 @@ std::vector<std::string> arquivoVazoes(int codigo, const std::string& nome, int 
     std::vector<std::string> linhas = {
         pDireita(std::to_string(codigo), 8) + " " + nome + std::string(60 - nome.size(), ' '),
         pDireita(std::to_string(anoInicial), 5) +
-            pDireita(std::to_string(anoInicial + static_cast<int>(anos.size()) - 1), 5) + pDireita("123.4", 8) + "."};
+            pDireita(std::to_string(anoInicial + static_cast<int>(anos.size()) - 1), 5) +
+            pDireita("123.4", 8) + "."};
     for (std::size_t a = 0; a < anos.size(); ++a) {
         const std::string ano = std::to_string(anoInicial + static_cast<int>(a));
         std::string linha = " ";
@@ -80,11 +81,23 @@ std::vector<std::string> arquivoVazoes(int codigo, const std::string& nome, int 
 
 std::vector<std::string> arquivoDadosGerais(const DadosGeraisTeste& d) {
     const bool limites = d.flagLimite != 0;
-    return {"1234.rel", d.imprime ? "S" : "N", "1234.dat", std::to_string(d.transformacao), "1", "1234.prv",
-            "1234.exc", std::to_string(d.confianca), std::to_string(d.semanaInicialPrev),
-            std::to_string(d.anoInicialPrev), d.usaVazpast ? "0" : "1", d.usaVazpast ? "Vazpast.dat" : "",
-            std::to_string(d.anoFinalHistorico), std::to_string(d.codigo),
-            limites ? std::to_string(d.flagLimite) : " 0 ", limites ? "1234.lim" : "", "0"};
+    return {"1234.rel",
+            d.imprime ? "S" : "N",
+            "1234.dat",
+            std::to_string(d.transformacao),
+            "1",
+            "1234.prv",
+            "1234.exc",
+            std::to_string(d.confianca),
+            std::to_string(d.semanaInicialPrev),
+            std::to_string(d.anoInicialPrev),
+            d.usaVazpast ? "0" : "1",
+            d.usaVazpast ? "Vazpast.dat" : "",
+            std::to_string(d.anoFinalHistorico),
+            std::to_string(d.codigo),
+            limites ? std::to_string(d.flagLimite) : " 0 ",
+            limites ? "1234.lim" : "",
+            "0"};
 }
 
 std::vector<std::vector<double>> anosSinteticos(int anos, int numSemanas, unsigned semente) {

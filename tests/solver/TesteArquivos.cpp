@@ -116,7 +116,8 @@ TEST(DadosGerais, LinhasComoOPluginAsEscreve) {
                   CodigoEstado::entradaInvalida)
             << "linha " << linha + 1 << ": " << texto;
     }
-    teste::escreve(pasta.caminho() / "curto.arq", std::vector<std::string>(linhas.begin(), linhas.begin() + 15));
+    teste::escreve(pasta.caminho() / "curto.arq",
+                   std::vector<std::string>(linhas.begin(), linhas.begin() + 15));
     EXPECT_EQ(pCodigoDaFalha([&] { solver::leDadosGerais(pasta.caminho() / "curto.arq"); }),
               CodigoEstado::entradaInvalida);
 }
@@ -127,7 +128,8 @@ TEST(Vazpast, LinhaDoPostoNasColunasDoPlugin) {
     teste::escreve(pasta.caminho() / "Vazpast.dat",
                    {"", "", "", " 1333               8.80      13.09     21.61     28.99     ",
                     " 1234               1.00      2.00      3.00      4.50      "});
-    EXPECT_EQ(solver::leVazpast(pasta.caminho() / "Vazpast.dat", 1234), (std::array<double, 4>{1.0, 2.0, 3.0, 4.5}));
+    EXPECT_EQ(solver::leVazpast(pasta.caminho() / "Vazpast.dat", 1234),
+              (std::array<double, 4>{1.0, 2.0, 3.0, 4.5}));
     EXPECT_EQ(solver::leVazpast(pasta.caminho() / "Vazpast.dat", 1333)[3], 28.99);
     EXPECT_EQ(pCodigoDaFalha([&] { solver::leVazpast(pasta.caminho() / "Vazpast.dat", 99); }),
               CodigoEstado::entradaInvalida);
@@ -135,7 +137,8 @@ TEST(Vazpast, LinhaDoPostoNasColunasDoPlugin) {
 
 TEST(Limites, PeriodosEPercentisDentroDaFaixa) {
     teste::PastaTemporaria pasta;
-    std::vector<std::string> linhas = {"3 ", "2 ", "2  10.0 90.0", "1   2.0 98.0", "4   0.1 99.9", "3   5.0 95.0"};
+    std::vector<std::string> linhas = {"3 ",           "2 ",           "2  10.0 90.0",
+                                       "1   2.0 98.0", "4   0.1 99.9", "3   5.0 95.0"};
     teste::escreve(pasta.caminho() / "l.lim", linhas);
     const auto l = solver::leLimites(pasta.caminho() / "l.lim", 52);
     EXPECT_EQ(l.agrupamento, solver::Agrupamento::trimestral);
@@ -143,8 +146,9 @@ TEST(Limites, PeriodosEPercentisDentroDaFaixa) {
     EXPECT_EQ(l.inferior, (std::vector<double>{2.0, 10.0, 5.0, 0.1}));
     EXPECT_EQ(l.superior, (std::vector<double>{98.0, 90.0, 95.0, 99.9}));
 
-    const std::vector<std::pair<std::size_t, std::string>> ruins = {
-        {0, "5 "}, {1, "0 "}, {2, "2   0.0 90.0"}, {3, "1   2.0100.0"}, {4, "5   1.0 99.0"}, {5, "3  95.0  5.0"}};
+    const std::vector<std::pair<std::size_t, std::string>> ruins = {{0, "5 "},           {1, "0 "},
+                                                                    {2, "2   0.0 90.0"}, {3, "1   2.0100.0"},
+                                                                    {4, "5   1.0 99.0"}, {5, "3  95.0  5.0"}};
     for (const auto& [linha, texto] : ruins) {
         auto r = linhas;
         r[linha] = texto;

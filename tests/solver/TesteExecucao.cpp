@@ -136,8 +136,9 @@ TEST_F(Execucao, LimitesDaPrevisaoSaoRespeitadosEAvisados) {
     ASSERT_TRUE(aviso);
     EXPECT_NE(aviso->front().find("previsão limitada"), std::string::npos);
     const auto relatorio = *solver::leLinhas(pasta() / "1234.rel");
-    EXPECT_TRUE(std::any_of(relatorio.begin(), relatorio.end(),
-                            [](const std::string& l) { return l.starts_with("Semanas limitadas pelos limites: "); }));
+    EXPECT_TRUE(std::any_of(relatorio.begin(), relatorio.end(), [](const std::string& l) {
+        return l.starts_with("Semanas limitadas pelos limites: ");
+    }));
 }
 
 TEST_F(Execucao, FalhasDeEntrada) {

@@ -14,9 +14,10 @@ using solver::Agrupamento;
 TEST(LimitesPercentis, PeriodosDasSemanas) {
     EXPECT_EQ(solver::periodoDaSemana(7, Agrupamento::semanal, 1), 7);
     EXPECT_EQ(solver::periodoDaSemana(0, Agrupamento::mensal, 1), 0);
-    EXPECT_EQ(solver::periodoDaSemana(4, Agrupamento::mensal, 1), 1);   // days 29 to 35: February
+    EXPECT_EQ(solver::periodoDaSemana(4, Agrupamento::mensal, 1), 1);  // days 29 to 35: February
     EXPECT_EQ(solver::periodoDaSemana(51, Agrupamento::mensal, 1), 11);
-    EXPECT_EQ(solver::periodoDaSemana(52, Agrupamento::mensal, 1), 11);  // the 53rd week stays in the last month
+    EXPECT_EQ(solver::periodoDaSemana(52, Agrupamento::mensal, 1),
+              11);  // the 53rd week stays in the last month
     // A hydrological year from October: its first week is in October, its last in September.
     EXPECT_EQ(solver::periodoDaSemana(0, Agrupamento::mensal, 10), 9);
     EXPECT_EQ(solver::periodoDaSemana(51, Agrupamento::mensal, 10), 8);

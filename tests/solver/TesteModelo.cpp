@@ -97,10 +97,11 @@ TEST(ModeloPAR, IntervaloTemALarguraEAAssimetriaDoProcesso) {
     const auto s = static_cast<std::size_t>(serie.semana(origem));
     const double fase = 2.0 * std::numbers::pi * static_cast<double>(s) / semanas;
     const double desvio = 0.4 + 0.1 * std::cos(fase);
-    const double zAnterior = (std::log(serie.vazao(origem - 1)) - 4.0 - std::sin(2.0 * std::numbers::pi *
-                              static_cast<double>((s + semanas - 1) % semanas) / semanas)) /
-                             (0.4 + 0.1 * std::cos(2.0 * std::numbers::pi *
-                              static_cast<double>((s + semanas - 1) % semanas) / semanas));
+    const double zAnterior =
+        (std::log(serie.vazao(origem - 1)) - 4.0 -
+         std::sin(2.0 * std::numbers::pi * static_cast<double>((s + semanas - 1) % semanas) / semanas)) /
+        (0.4 +
+         0.1 * std::cos(2.0 * std::numbers::pi * static_cast<double>((s + semanas - 1) % semanas) / semanas));
     const double centro = 4.0 + std::sin(fase) + desvio * 0.6 * zAnterior;
     const double meiaLargura = 1.96 * desvio * 0.8;
     EXPECT_NEAR(std::log(previsao[0]), centro, 0.1);

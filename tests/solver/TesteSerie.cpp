@@ -18,8 +18,8 @@ TEST(SerieSemanal, InterpolaLacunasCurtasEUsaAMedianaNasLongasENasPontas) {
             v.push_back(10.0 * (a + 1) + k);
         }
     }
-    v[0] = 0.0;            // leading gap: median of week 1
-    v[5] = v[6] = 0.0;     // two weeks between 20 and 23: a line
+    v[0] = 0.0;         // leading gap: median of week 1
+    v[5] = v[6] = 0.0;  // two weeks between 20 and 23: a line
     for (int t = 12; t < 18; ++t) {
         v[static_cast<std::size_t>(t)] = 0.0;  // six weeks: too long to interpolate
     }
