@@ -55,7 +55,7 @@ bool Caminhada::pAbreNivel() {
     chave.nivel = trecho.nivel;
     chave.chaves = trecho.chaves;
     chave.variante = trecho.variante();
-    mAtual = conexao.comando(
+    mAtual = conexao.leitura(
         chave, [&] { return trechos::sql(mTabela.sqlSelecao(), mTabela.meta(), mColunas, trecho); });
     mEpoca = conexao.epoca();
 

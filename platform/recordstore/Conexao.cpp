@@ -12,6 +12,9 @@ namespace {
 // A second process waits this long for the write lock rather than failing.
 constexpr int esperaPorBloqueioMs = 5 * 60 * 1000;
 
+// How late a read may see what another process committed.
+constexpr std::chrono::milliseconds validadeDaLeitura{100};
+
 QString pontoDeSalvamento(int profundidade) {
     return QStringLiteral("nivel%1").arg(profundidade);
 }
@@ -30,7 +33,7 @@ std::shared_ptr<Conexao> Conexao::abre(const QString& caminho, bool cria) {
     sqlite3_busy_timeout(bd, esperaPorBloqueioMs);
     registraColacaoGeral(bd);
     // A file that is not a database refuses these too; it is reported at the first table opened.
-    const int pragmas = sqlite3_exec(bd, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL;", nullptr, nullptr, nullptr);
+    const int pragmas = sqlite3_exec(bd, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL; PRAGMA cache_size=-32768;", nullptr, nullptr, nullptr);
     if (pragmas != SQLITE_OK && (pragmas & 0xff) != SQLITE_NOTADB) {
         sql::falha(bd, pragmas);
     }
@@ -56,6 +59,7 @@ void Conexao::fecha() {
     }
     // Handles left open hold no statement of their own: all of them live in the cache.
     mComandos.limpa();
+    mAncora = nullptr;
     sqlite3_close_v2(mBd);  // an open transaction is rolled back
     mBd = nullptr;
     mProfundidade = 0;
@@ -86,6 +90,21 @@ int Conexao::posicaoDaTabela(const QString& nome) {
     const int posicao = static_cast<int>(mVersoes.size()) - 1;
     mPosicoes.insert(chave, posicao);
     return posicao;
+}
+
+void Conexao::pMantemLeitura() {
+    const auto agora = std::chrono::steady_clock::now();
+    if (mProfundidade > 0 || (mAncora && agora - mInicioAncora < validadeDaLeitura)) {
+        return;
+    }
+    if (mAncora) {
+        sql::reinicia(mAncora);
+    }
+    mAncora = comando(ChaveComando{}, [] { return QStringLiteral("SELECT 1 FROM sqlite_schema"); });
+    mInicioAncora = agora;
+    if (!sql::passo(mAncora)) {
+        mAncora = nullptr;  // an empty file: nothing to hold
+    }
 }
 
 void Conexao::antesDeEscrever() {
@@ -142,6 +161,7 @@ void Conexao::pLiberaLeitores() {
             sqlite3_reset(s);
         }
     }
+    mAncora = nullptr;
     ++mEpoca;
 }
 

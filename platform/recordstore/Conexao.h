@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QString>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <vector>
@@ -35,6 +36,13 @@ public:
     template <class GeraSql>
     sqlite3_stmt* comando(const ChaveComando& chave, GeraSql&& sql) {
         return mComandos.obtem(bd(), chave, sql);
+    }
+    // A statement that reads. Outside a transaction, reads share one snapshot for a moment:
+    // beginning a read transaction takes file locks, which would cost more than a Seek.
+    template <class GeraSql>
+    sqlite3_stmt* leitura(const ChaveComando& chave, GeraSql&& sql) {
+        pMantemLeitura();
+        return comando(chave, sql);
     }
     int novoDono() { return ++mDonos; }
     void descartaComandos(int dono) { mComandos.descarta(dono); }
@@ -68,6 +76,7 @@ public:
 
 private:
     Conexao(sqlite3* bd, const QString& caminho);
+    void pMantemLeitura();
     void pLiberaLeitores();
     void pInvalida();
 
@@ -83,6 +92,8 @@ private:
     std::uint64_t mDescartes = 0;
     int mDonos = 0;
     int mProfundidade = 0;
+    sqlite3_stmt* mAncora = nullptr;  // a pending read that holds the snapshot; lives in the cache
+    std::chrono::steady_clock::time_point mInicioAncora;
 };
 
 }  // namespace recordstore

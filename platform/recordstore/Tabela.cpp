@@ -57,7 +57,7 @@ void Tabela::leLinha(sqlite3_stmt* instrucao, Linha& linha) const {
 }
 
 std::optional<Linha> Tabela::linhaPorRowid(std::int64_t rowid) {
-    sqlite3_stmt* q = conexao().comando(chave(TipoComando::PorRowid),
+    sqlite3_stmt* q = conexao().leitura(chave(TipoComando::PorRowid),
                                         [this] { return sqlSelecao() + QStringLiteral(" WHERE rowid = ?"); });
     sql::ligaInteiro(q, 1, rowid);
     std::optional<Linha> linha;
@@ -70,7 +70,7 @@ std::optional<Linha> Tabela::linhaPorRowid(std::int64_t rowid) {
 
 bool Tabela::vazia() {
     if (!mVazia || mVersaoVazia != versao()) {
-        sqlite3_stmt* q = conexao().comando(chave(TipoComando::Vazia), [this] {
+        sqlite3_stmt* q = conexao().leitura(chave(TipoComando::Vazia), [this] {
             return QStringLiteral("SELECT 1 FROM %1 LIMIT 1").arg(sql::aspas(mMeta->nome));
         });
         mVazia = !sql::passo(q);
