@@ -19,6 +19,8 @@ constexpr int semanasVizinhasResiduos = 2;
 // Each week's autoregression is estimated on its own years and those of the weeks beside it: the
 // coefficients change slowly through the year, and the pooled sample steadies them.
 constexpr int semanasVizinhasAutorregressao = 1;
+// The mean and deviation of each week are averaged over this many weeks on each side.
+constexpr int semanasVizinhasPadronizacao = 1;
 // Silverman's factor for the bandwidth of the kernel that smooths the resampled innovations.
 constexpr double fatorSilverman = 0.9;
 // Observations per lag that an autoregression needs before it may use that lag.
@@ -97,20 +99,35 @@ ModeloPAR ModeloPAR::ajusta(const SerieSemanal& serie, std::size_t fim, TipoTran
 }
 
 void ModeloPAR::pAjustaTransformacoes(const SerieSemanal& serie, std::size_t fim) {
-    const auto numSemanas = semanas_.size();
-    for (std::size_t s = 0; s < numSemanas; ++s) {
+    const int numSemanas = getNumSemanas();
+    const auto vazoesDaSemana = [&](int s) {
         std::vector<double> vazoes;
-        for (std::size_t t = s; t < fim; t += numSemanas) {
+        for (auto t = static_cast<std::size_t>(s); t < fim; t += static_cast<std::size_t>(numSemanas)) {
             vazoes.push_back(serie.vazao(t));
         }
-        ParametrosSemana& p = semanas_[s];
+        return vazoes;
+    };
+    for (int s = 0; s < numSemanas; ++s) {
+        const std::vector<double> vazoes = vazoesDaSemana(s);
+        ParametrosSemana& p = semanas_[static_cast<std::size_t>(s)];
         p.transformacao = ajustaTransformacao(tipo_, vazoes);
         p.vazaoPiso = fracaoPiso * *std::min_element(vazoes.begin(), vazoes.end());
-        std::vector<double> y(vazoes.size());
-        std::transform(vazoes.begin(), vazoes.end(), y.begin(),
-                       [&](double v) { return p.transformacao.aplica(v); });
-        p.media = media(y);
-        p.desvio = std::max(desvioPadrao(y), desvioMinimo);
+        // The mean and the variance of each week are averaged with those of the weeks beside it,
+        // each in this week's transformation: a record of a few decades gives each week's mean
+        // an error of a fifth of its deviation, which the neighbours cut down.
+        double somaMedias = 0.0;
+        double somaVariancias = 0.0;
+        for (int d = -semanasVizinhasPadronizacao; d <= semanasVizinhasPadronizacao; ++d) {
+            std::vector<double> y = vazoesDaSemana(static_cast<int>(pVizinha(s, d, numSemanas)));
+            for (double& v : y) {
+                v = p.transformacao.aplica(v);
+            }
+            somaMedias += media(y);
+            const double desvio = desvioPadrao(y);
+            somaVariancias += desvio * desvio;
+        }
+        p.media = somaMedias / (2 * semanasVizinhasPadronizacao + 1);
+        p.desvio = std::max(std::sqrt(somaVariancias / (2 * semanasVizinhasPadronizacao + 1)), desvioMinimo);
     }
 }
 
