@@ -21,10 +21,12 @@ constexpr int anoInicial = 1931;
 constexpr int linhasPorHistorico = 5300;
 
 TableDef vazoes(const QString& nome) {
-    return {nome,
-            {CreateField(QStringLiteral("CodigoDoPosto"), Tipo::Long), CreateField(QStringLiteral("Ano"), Tipo::Integer),
-             CreateField(QStringLiteral("Semana"), Tipo::Byte), CreateField(QStringLiteral("Vazao"), Tipo::Single)},
-            {{QStringLiteral("CodigoDoPostoAnoSemana"), true, QStringLiteral("CodigoDoPosto;+Ano;+Semana")}}};
+    return {
+        nome,
+        {CreateField(QStringLiteral("CodigoDoPosto"), Tipo::Long),
+         CreateField(QStringLiteral("Ano"), Tipo::Integer), CreateField(QStringLiteral("Semana"), Tipo::Byte),
+         CreateField(QStringLiteral("Vazao"), Tipo::Single)},
+        {{QStringLiteral("CodigoDoPostoAnoSemana"), true, QStringLiteral("CodigoDoPosto;+Ano;+Semana")}}};
 }
 
 void adiciona(Recordset& rs, int codigo, int ano, int semana) {
@@ -81,7 +83,8 @@ BENCHMARK(MoveNextPelaChave)->Unit(benchmark::kMillisecond);
 void SeekTresCampos(benchmark::State& state) {
     Recordset& rs = *Base::instancia().rs;
     std::mt19937 gerador(42);
-    std::uniform_int_distribution<int> codigo(1, postos), ano(anoInicial, anoInicial + anos - 1), semana(1, semanas);
+    std::uniform_int_distribution<int> codigo(1, postos), ano(anoInicial, anoInicial + anos - 1),
+        semana(1, semanas);
     constexpr int buscas = 100000;
     for (auto _ : state) {
         int achados = 0;
@@ -129,7 +132,8 @@ void LeituraDeUmHistorico(benchmark::State& state) {
     for (auto _ : state) {
         int lidas = 0;
         for (novas->Seek(QStringLiteral(">="), {7});
-             !novas->Eof() && novas->campo(QStringLiteral("CodigoDoPosto")).paraInteiro() == 7; novas->MoveNext()) {
+             !novas->Eof() && novas->campo(QStringLiteral("CodigoDoPosto")).paraInteiro() == 7;
+             novas->MoveNext()) {
             benchmark::DoNotOptimize(novas->campo(QStringLiteral("Ano")).paraInteiro());
             benchmark::DoNotOptimize(novas->campo(QStringLiteral("Semana")).paraInteiro());
             benchmark::DoNotOptimize(novas->campo(QStringLiteral("Vazao")).paraDouble());

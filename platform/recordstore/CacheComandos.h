@@ -13,9 +13,9 @@ struct sqlite3;
 namespace recordstore {
 
 struct ChaveComando {
-    int dono = 0;       // the handle
-    int tipo = 0;       // what the statement does, in the owner's own numbering
-    int indice = -1;    // the order it walks
+    int dono = 0;     // the handle
+    int tipo = 0;     // what the statement does, in the owner's own numbering
+    int indice = -1;  // the order it walks
     int nivel = 0;
     int chaves = 0;
     unsigned variante = 0;  // direction and which key values are null

@@ -36,7 +36,8 @@ Valor padraoDoCampo(const FieldDef& campo, const ValorSql& expressao) {
 }
 
 std::vector<FieldDef> lerCampos(sqlite3* bd, const QString& tabela, const QString& sqlDaTabela) {
-    const Instrucao q = sql::prepara(bd, QStringLiteral("SELECT name, type, dflt_value FROM pragma_table_info(?1)"));
+    const Instrucao q =
+        sql::prepara(bd, QStringLiteral("SELECT name, type, dflt_value FROM pragma_table_info(?1)"));
     sql::ligaTexto(q.get(), 1, tabela);
     std::vector<FieldDef> campos;
     while (sql::passo(q.get())) {
@@ -65,9 +66,10 @@ std::vector<ColunaChave> lerColunas(sqlite3* bd, const QString& indice, const st
 }
 
 std::vector<MetaIndice> lerIndices(sqlite3* bd, const MetaTabela& tabela) {
-    const Instrucao q = sql::prepara(bd, QStringLiteral("SELECT l.name, l.\"unique\", l.origin "
-                                                        "FROM pragma_index_list(?1) AS l "
-                                                        "JOIN sqlite_schema AS s ON s.name = l.name ORDER BY s.rowid"));
+    const Instrucao q =
+        sql::prepara(bd, QStringLiteral("SELECT l.name, l.\"unique\", l.origin "
+                                        "FROM pragma_index_list(?1) AS l "
+                                        "JOIN sqlite_schema AS s ON s.name = l.name ORDER BY s.rowid"));
     sql::ligaTexto(q.get(), 1, tabela.nome);
     std::vector<MetaIndice> indices;
     while (sql::passo(q.get())) {
@@ -78,8 +80,9 @@ std::vector<MetaIndice> lerIndices(sqlite3* bd, const MetaTabela& tabela) {
         }
         // A PRIMARY KEY written by hand gets the name the old engine gave such an index.
         const bool chavePrimaria = sql::texto(q.get(), 2) == QLatin1String("pk");
-        IndexDef def{chavePrimaria ? QStringLiteral("PrimaryKey") : esquema::nomeDoIndice(tabela.nome, nomeSqlite),
-                     sql::inteiro(q.get(), 1) != 0, esquema::listaDeCampos(colunas, tabela.campos)};
+        IndexDef def{
+            chavePrimaria ? QStringLiteral("PrimaryKey") : esquema::nomeDoIndice(tabela.nome, nomeSqlite),
+            sql::inteiro(q.get(), 1) != 0, esquema::listaDeCampos(colunas, tabela.campos)};
         indices.push_back({def, std::move(colunas)});
     }
     return indices;
@@ -93,7 +96,8 @@ std::shared_ptr<const MetaTabela> Catalogo::tabela(sqlite3* bd, const QString& n
         return *it;
     }
     const Instrucao q = sql::prepara(
-        bd, QStringLiteral("SELECT name, sql FROM sqlite_schema WHERE type = 'table' AND name = ?1 COLLATE NOCASE"));
+        bd, QStringLiteral(
+                "SELECT name, sql FROM sqlite_schema WHERE type = 'table' AND name = ?1 COLLATE NOCASE"));
     sql::ligaTexto(q.get(), 1, nome);
     if (!sql::passo(q.get())) {
         return nullptr;
@@ -107,8 +111,9 @@ std::shared_ptr<const MetaTabela> Catalogo::tabela(sqlite3* bd, const QString& n
 }
 
 std::vector<QString> Catalogo::nomes(sqlite3* bd) const {
-    const Instrucao q = sql::prepara(bd, QStringLiteral("SELECT name FROM sqlite_schema WHERE type = 'table' "
-                                                        "AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid"));
+    const Instrucao q =
+        sql::prepara(bd, QStringLiteral("SELECT name FROM sqlite_schema WHERE type = 'table' "
+                                        "AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid"));
     std::vector<QString> nomes;
     while (sql::passo(q.get())) {
         nomes.push_back(sql::texto(q.get(), 0));

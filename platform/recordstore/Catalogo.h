@@ -20,7 +20,7 @@ public:
     // The table of that name (any case), or null when the file has none.
     std::shared_ptr<const MetaTabela> tabela(sqlite3* bd, const QString& nome);
     std::vector<QString> nomes(sqlite3* bd) const;  // in creation order
-    void esquece();  // after a change of schema
+    void esquece();                                 // after a change of schema
 
 private:
     QHash<QString, std::shared_ptr<const MetaTabela>> mTabelas;  // by lower-case name

@@ -13,8 +13,9 @@ namespace {
 
 int compara(void* colador, int bytesA, const void* a, int bytesB, const void* b) {
     // SQLite hands the text over in UTF-16, which ICU compares without conversion.
-    const UCollationResult r = ucol_strcoll(static_cast<const UCollator*>(colador), static_cast<const UChar*>(a),
-                                            bytesA / 2, static_cast<const UChar*>(b), bytesB / 2);
+    const UCollationResult r =
+        ucol_strcoll(static_cast<const UCollator*>(colador), static_cast<const UChar*>(a), bytesA / 2,
+                     static_cast<const UChar*>(b), bytesB / 2);
     return r == UCOL_LESS ? -1 : (r == UCOL_GREATER ? 1 : 0);
 }
 

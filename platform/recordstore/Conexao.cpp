@@ -33,7 +33,9 @@ std::shared_ptr<Conexao> Conexao::abre(const QString& caminho, bool cria) {
     sqlite3_busy_timeout(bd, esperaPorBloqueioMs);
     registraColacaoGeral(bd);
     // A file that is not a database refuses these too; it is reported at the first table opened.
-    const int pragmas = sqlite3_exec(bd, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL; PRAGMA cache_size=-32768;", nullptr, nullptr, nullptr);
+    const int pragmas =
+        sqlite3_exec(bd, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL; PRAGMA cache_size=-32768;",
+                     nullptr, nullptr, nullptr);
     if (pragmas != SQLITE_OK && (pragmas & 0xff) != SQLITE_NOTADB) {
         sql::falha(bd, pragmas);
     }

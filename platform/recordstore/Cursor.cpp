@@ -118,7 +118,8 @@ std::vector<Valor> Cursor::pChaveDe(const Linha& linha) const {
     return chave;
 }
 
-void Cursor::pCaminha(bool avanca, std::vector<Valor> chave, std::optional<std::int64_t> rowid, bool soIguais) {
+void Cursor::pCaminha(bool avanca, std::vector<Valor> chave, std::optional<std::int64_t> rowid,
+                      bool soIguais) {
     const MetaIndice* indice = pIndice();
     const int posicao = indice ? static_cast<int>(indice - mTabela.meta().indices.data()) : -1;
     mCaminhada.reset();

@@ -39,7 +39,8 @@ private:
 
     const MetaIndice* pIndice() const;
     std::vector<Valor> pChaveDe(const Linha& linha) const;
-    void pCaminha(bool avanca, std::vector<Valor> chave, std::optional<std::int64_t> rowid, bool soIguais = false);
+    void pCaminha(bool avanca, std::vector<Valor> chave, std::optional<std::int64_t> rowid,
+                  bool soIguais = false);
     void pInicio(bool avanca);
     void pMove(bool avanca);
     bool pPasso();

@@ -19,7 +19,8 @@ QString sqlInsere(const MetaTabela& tabela) {
         parametros << QStringLiteral("?");
     }
     return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-        .arg(sql::aspas(tabela.nome), campos.join(QStringLiteral(", ")), parametros.join(QStringLiteral(", ")));
+        .arg(sql::aspas(tabela.nome), campos.join(QStringLiteral(", ")),
+             parametros.join(QStringLiteral(", ")));
 }
 
 QString sqlAtualiza(const MetaTabela& tabela) {
@@ -57,7 +58,8 @@ void Edicao::setValor(int campo, const Valor& valor) {
     if (!pendente()) {
         throw erroBD(ErroSemAddNewOuEdit);
     }
-    mValores[static_cast<std::size_t>(campo)] = campos::converte(mTabela.meta().campos[static_cast<std::size_t>(campo)], valor);
+    mValores[static_cast<std::size_t>(campo)] =
+        campos::converte(mTabela.meta().campos[static_cast<std::size_t>(campo)], valor);
 }
 
 void Edicao::grava() {
@@ -72,8 +74,9 @@ void Edicao::grava() {
         }
     }
     conexao.antesDeEscrever();
-    sqlite3_stmt* q = mNova ? conexao.comando(mTabela.chave(TipoComando::Insere), [&] { return sqlInsere(meta); })
-                            : conexao.comando(mTabela.chave(TipoComando::Atualiza), [&] { return sqlAtualiza(meta); });
+    sqlite3_stmt* q =
+        mNova ? conexao.comando(mTabela.chave(TipoComando::Insere), [&] { return sqlInsere(meta); })
+              : conexao.comando(mTabela.chave(TipoComando::Atualiza), [&] { return sqlAtualiza(meta); });
     int parametro = 0;
     for (std::size_t i = 0; i < meta.campos.size(); ++i) {
         sql::liga(q, ++parametro, campos::paraSql(meta.campos[i], mValores[i]));

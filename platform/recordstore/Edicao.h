@@ -16,9 +16,8 @@ public:
 
     // A pending AddNew or Edit; a rollback or a change of schema drops it.
     bool pendente() const;
-    bool nova() const { return mNova; }
 
-    void adiciona();                  // the fields' defaults
+    void adiciona();                 // the fields' defaults
     void edita(const Linha& atual);  // the current record's values
     const Valor& valor(int campo) const;
     void setValor(int campo, const Valor& valor);  // 3020, and the field rules

@@ -27,7 +27,8 @@ QString descricao(std::int32_t numero) {
         case ErroArquivoInexistente:
             return QStringLiteral("Não foi possível encontrar o arquivo '%1'.");
         case ErroSomenteLeitura:
-            return QStringLiteral("Não é possível atualizar. O banco de dados ou o objeto é somente leitura.");
+            return QStringLiteral(
+                "Não é possível atualizar. O banco de dados ou o objeto é somente leitura.");
         case ErroSemTransacao:
             return QStringLiteral(
                 "Você tentou confirmar ou reverter uma transação sem antes iniciar uma transação.");
@@ -62,7 +63,8 @@ QString descricao(std::int32_t numero) {
         case ErroItemInexistente:
             return QStringLiteral("Item não encontrado nesta coleção.");
         case ErroComprimentoZero:
-            return QStringLiteral("O campo '%1' não pode ser uma seqüência de caracteres de comprimento zero.");
+            return QStringLiteral(
+                "O campo '%1' não pode ser uma seqüência de caracteres de comprimento zero.");
         case ErroFormatoBanco:
             return QStringLiteral("Formato de banco de dados '%1' não reconhecido.");
         case ErroObjetoInvalido:

@@ -18,12 +18,12 @@ struct TipoDeclarado {
 
 // The store writes the first name of each type; the others are read in files made by hand.
 constexpr TipoDeclarado tiposDeclarados[] = {
-    {"BOOLEAN", Tipo::Boolean}, {"BYTE", Tipo::Byte},         {"INTEGER", Tipo::Integer},
-    {"LONG", Tipo::Long},       {"SINGLE", Tipo::Single},     {"DOUBLE", Tipo::Double},
-    {"DATETIME", Tipo::DataHora}, {"TEXT", Tipo::Texto},      {"BIT", Tipo::Boolean},
-    {"YESNO", Tipo::Boolean},   {"TINYINT", Tipo::Byte},      {"SMALLINT", Tipo::Integer},
-    {"SHORT", Tipo::Integer},   {"INT", Tipo::Long},          {"REAL", Tipo::Single},
-    {"FLOAT", Tipo::Double},    {"DATE", Tipo::DataHora},     {"VARCHAR", Tipo::Texto},
+    {"BOOLEAN", Tipo::Boolean},   {"BYTE", Tipo::Byte},     {"INTEGER", Tipo::Integer},
+    {"LONG", Tipo::Long},         {"SINGLE", Tipo::Single}, {"DOUBLE", Tipo::Double},
+    {"DATETIME", Tipo::DataHora}, {"TEXT", Tipo::Texto},    {"BIT", Tipo::Boolean},
+    {"YESNO", Tipo::Boolean},     {"TINYINT", Tipo::Byte},  {"SMALLINT", Tipo::Integer},
+    {"SHORT", Tipo::Integer},     {"INT", Tipo::Long},      {"REAL", Tipo::Single},
+    {"FLOAT", Tipo::Double},      {"DATE", Tipo::DataHora}, {"VARCHAR", Tipo::Texto},
     {"CHAR", Tipo::Texto},
 };
 
@@ -31,8 +31,9 @@ QString nomeDoTipo(const FieldDef& campo) {
     for (const auto& t : tiposDeclarados) {
         if (t.tipo == campo.Type) {
             const QString nome = QString::fromLatin1(t.nome);
-            return campo.Type == Tipo::Texto ? QStringLiteral("%1(%2)").arg(nome).arg(campos::tamanhoTexto(campo))
-                                             : nome;
+            return campo.Type == Tipo::Texto
+                       ? QStringLiteral("%1(%2)").arg(nome).arg(campos::tamanhoTexto(campo))
+                       : nome;
         }
     }
     return {};
@@ -140,7 +141,8 @@ QString sqlCriaTabela(const MetaTabela& tabela) {
     for (const auto& campo : tabela.campos) {
         campos << QStringLiteral("  ") + definicaoDoCampo(campo);
     }
-    return QStringLiteral("CREATE TABLE %1 (\n%2\n)").arg(sql::aspas(tabela.nome), campos.join(QStringLiteral(",\n")));
+    return QStringLiteral("CREATE TABLE %1 (\n%2\n)")
+        .arg(sql::aspas(tabela.nome), campos.join(QStringLiteral(",\n")));
 }
 
 QString sqlCriaIndice(const MetaTabela& tabela, const MetaIndice& indice) {
@@ -179,7 +181,8 @@ FieldDef campoDeclarado(const QString& nome, const QString& tipoDeclarado, const
 QString listaDeCampos(const std::vector<ColunaChave>& colunas, const std::vector<FieldDef>& campos) {
     QStringList partes;
     for (const auto& coluna : colunas) {
-        const QString sinal = coluna.descendente ? QStringLiteral("-") : (partes.isEmpty() ? QString() : QStringLiteral("+"));
+        const QString sinal =
+            coluna.descendente ? QStringLiteral("-") : (partes.isEmpty() ? QString() : QStringLiteral("+"));
         partes << sinal + campos[static_cast<std::size_t>(coluna.campo)].Name;
     }
     return partes.join(QLatin1Char(';'));

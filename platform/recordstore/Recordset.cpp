@@ -1,5 +1,5 @@
-#include "platform/recordstore/EstadoRecordset.h"
 #include "platform/recordstore/Erros.h"
+#include "platform/recordstore/EstadoRecordset.h"
 
 namespace recordstore {
 

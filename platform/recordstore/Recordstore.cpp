@@ -127,7 +127,7 @@ Transacao::~Transacao() {
     try {
         mBd.Rollback();
     } catch (const plataforma::ErroVB&) {
-        // The file was closed meanwhile, which rolled the transaction back already.
+        // The file was closed meanwhile, which rolled it back, or it was ended by hand.
     }
 }
 

@@ -75,7 +75,8 @@ void ligaInteiro(sqlite3_stmt* instrucao, int posicao, std::int64_t valor) {
 }
 
 void ligaTexto(sqlite3_stmt* instrucao, int posicao, const QString& valor) {
-    sqlite3_bind_text16(instrucao, posicao, valor.utf16(), static_cast<int>(valor.size() * 2), SQLITE_TRANSIENT);
+    sqlite3_bind_text16(instrucao, posicao, valor.utf16(), static_cast<int>(valor.size() * 2),
+                        SQLITE_TRANSIENT);
 }
 
 bool passo(sqlite3_stmt* instrucao) {

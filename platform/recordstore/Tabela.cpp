@@ -45,7 +45,8 @@ QString Tabela::sqlSelecao() const {
     for (const auto& campo : mMeta->campos) {
         colunas << sql::aspas(campo.Name);
     }
-    return QStringLiteral("SELECT %1 FROM %2").arg(colunas.join(QStringLiteral(", ")), sql::aspas(mMeta->nome));
+    return QStringLiteral("SELECT %1 FROM %2")
+        .arg(colunas.join(QStringLiteral(", ")), sql::aspas(mMeta->nome));
 }
 
 void Tabela::leLinha(sqlite3_stmt* instrucao, Linha& linha) const {

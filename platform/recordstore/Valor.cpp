@@ -18,33 +18,32 @@ constexpr std::int64_t verdadeiro = -1;
 }  // namespace
 
 bool Valor::paraBool() const {
-    return std::visit(
-        Sobrecarga{
-            [](std::monostate) { return false; },
-            [](bool v) { return v; },
-            [](std::int64_t v) { return v != 0; },
-            [](double v) { return v != 0.0; },
-            [](const QString& v) {
-                const QString t = v.trimmed();
-                for (const auto* sim : {"true", "verdadeiro"}) {
-                    if (t.compare(QLatin1String(sim), Qt::CaseInsensitive) == 0) {
-                        return true;
-                    }
-                }
-                for (const auto* nao : {"false", "falso"}) {
-                    if (t.compare(QLatin1String(nao), Qt::CaseInsensitive) == 0) {
-                        return false;
-                    }
-                }
-                const auto n = conversoes::numeroDeTexto(t);
-                if (!n) {
-                    throw plataforma::ErroVB::padrao(plataforma::ErroTiposIncompativeis);
-                }
-                return *n != 0.0;
-            },
-            [](const QDateTime& v) { return conversoes::dataParaNumero(v) != 0.0; },
-        },
-        m);
+    return std::visit(Sobrecarga{
+                          [](std::monostate) { return false; },
+                          [](bool v) { return v; },
+                          [](std::int64_t v) { return v != 0; },
+                          [](double v) { return v != 0.0; },
+                          [](const QString& v) {
+                              const QString t = v.trimmed();
+                              for (const auto* sim : {"true", "verdadeiro"}) {
+                                  if (t.compare(QLatin1String(sim), Qt::CaseInsensitive) == 0) {
+                                      return true;
+                                  }
+                              }
+                              for (const auto* nao : {"false", "falso"}) {
+                                  if (t.compare(QLatin1String(nao), Qt::CaseInsensitive) == 0) {
+                                      return false;
+                                  }
+                              }
+                              const auto n = conversoes::numeroDeTexto(t);
+                              if (!n) {
+                                  throw plataforma::ErroVB::padrao(plataforma::ErroTiposIncompativeis);
+                              }
+                              return *n != 0.0;
+                          },
+                          [](const QDateTime& v) { return conversoes::dataParaNumero(v) != 0.0; },
+                      },
+                      m);
 }
 
 double Valor::paraDouble() const {

@@ -27,29 +27,33 @@ protected:
         bd = recordstore::Database::CreateDatabase(caminho());
     }
 
-    QString caminho(const QString& nome = QStringLiteral("Corvalin.mdb")) const { return mPasta.filePath(nome); }
+    QString caminho(const QString& nome = QStringLiteral("Corvalin.mdb")) const {
+        return mPasta.filePath(nome);
+    }
 
     void criaPostos() {
         using recordstore::Tipo;
-        recordstore::TableDef t{QStringLiteral("Postos"),
-                                {recordstore::CreateField(QStringLiteral("CodigoDoPosto"), Tipo::Long),
-                                 recordstore::CreateField(QStringLiteral("NomeDoAproveitamento"), Tipo::Texto, 60),
-                                 recordstore::CreateField(QStringLiteral("AreaDeDrenagem"), Tipo::Single)},
-                                {{QStringLiteral("CodigoDoPosto"), true, QStringLiteral("CodigoDoPosto")},
-                                 {QStringLiteral("NomeDoAproveitamento"), false, QStringLiteral("NomeDoAproveitamento")}}};
+        recordstore::TableDef t{
+            QStringLiteral("Postos"),
+            {recordstore::CreateField(QStringLiteral("CodigoDoPosto"), Tipo::Long),
+             recordstore::CreateField(QStringLiteral("NomeDoAproveitamento"), Tipo::Texto, 60),
+             recordstore::CreateField(QStringLiteral("AreaDeDrenagem"), Tipo::Single)},
+            {{QStringLiteral("CodigoDoPosto"), true, QStringLiteral("CodigoDoPosto")},
+             {QStringLiteral("NomeDoAproveitamento"), false, QStringLiteral("NomeDoAproveitamento")}}};
         t.Fields[2].DefaultValue = 0;
         bd->Append(t);
     }
 
     void criaVazoes() {
         using recordstore::Tipo;
-        bd->Append({QStringLiteral("VazoesSemanais"),
-                    {recordstore::CreateField(QStringLiteral("CodigoDoPosto"), Tipo::Long),
-                     recordstore::CreateField(QStringLiteral("Ano"), Tipo::Integer),
-                     recordstore::CreateField(QStringLiteral("Semana"), Tipo::Byte),
-                     recordstore::CreateField(QStringLiteral("Vazao"), Tipo::Single)},
-                    {{QStringLiteral("CodigoDoPostoAnoSemana"), true, QStringLiteral("CodigoDoPosto;+Ano;+Semana")},
-                     {QStringLiteral("CodigoDoPosto"), false, QStringLiteral("CodigoDoPosto")}}});
+        bd->Append(
+            {QStringLiteral("VazoesSemanais"),
+             {recordstore::CreateField(QStringLiteral("CodigoDoPosto"), Tipo::Long),
+              recordstore::CreateField(QStringLiteral("Ano"), Tipo::Integer),
+              recordstore::CreateField(QStringLiteral("Semana"), Tipo::Byte),
+              recordstore::CreateField(QStringLiteral("Vazao"), Tipo::Single)},
+             {{QStringLiteral("CodigoDoPostoAnoSemana"), true, QStringLiteral("CodigoDoPosto;+Ano;+Semana")},
+              {QStringLiteral("CodigoDoPosto"), false, QStringLiteral("CodigoDoPosto")}}});
     }
 
     static void adicionaPosto(recordstore::Recordset& rs, int codigo, const QString& nome) {
@@ -73,7 +77,8 @@ protected:
     }
 
     // The field's values from the current record to the end (or the beginning, going back).
-    static std::vector<std::int64_t> ateOFim(recordstore::Recordset& rs, const char* campo, bool avanca = true) {
+    static std::vector<std::int64_t> ateOFim(recordstore::Recordset& rs, const char* campo,
+                                             bool avanca = true) {
         std::vector<std::int64_t> valores;
         while (avanca ? !rs.Eof() : !rs.Bof()) {
             valores.push_back(inteiro(rs, campo));

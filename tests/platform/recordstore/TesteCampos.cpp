@@ -138,7 +138,9 @@ TEST_F(Campos, EveryBrokenRuleRaisesTheEnginesErrorAndWritesNothing) {
         return plataforma::ErroVB(0, {});
     }();
     EXPECT_EQ(erro.Number(), 3315);
-    EXPECT_EQ(erro.Description(), QStringLiteral("O campo 'Tipos.Nome' não pode ser uma seqüência de caracteres de comprimento zero."));
+    EXPECT_EQ(
+        erro.Description(),
+        QStringLiteral("O campo 'Tipos.Nome' não pode ser uma seqüência de caracteres de comprimento zero."));
     rs->setCampo(QStringLiteral("Nome"), QStringLiteral("x"));
     rs->setCampo(QStringLiteral("Chave"), 1);
     EXPECT_EQ(numeroDoErro([&] { rs->Update(); }), 3022);

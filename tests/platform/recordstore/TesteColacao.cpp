@@ -9,7 +9,8 @@ protected:
         criaPostos();
         postos = bd->OpenRecordset(QStringLiteral("Postos"));
         int codigo = 0;
-        for (const char* nome : {"São Simão", "furnas", "Sao Simao", "Água Vermelha", "FURNAS", "Agua Limpa", "Balbina"}) {
+        for (const char* nome :
+             {"São Simão", "furnas", "Sao Simao", "Água Vermelha", "FURNAS", "Agua Limpa", "Balbina"}) {
             adicionaPosto(*postos, ++codigo, QString::fromUtf8(nome));
         }
         postos->setIndex(QStringLiteral("NomeDoAproveitamento"));
@@ -25,7 +26,8 @@ protected:
 
     QString seek(const char* comparacao, const char* nome) {
         postos->Seek(QString::fromLatin1(comparacao), {QString::fromUtf8(nome)});
-        return postos->NoMatch() ? QStringLiteral("(nada)") : postos->campo(QStringLiteral("NomeDoAproveitamento")).paraTexto();
+        return postos->NoMatch() ? QStringLiteral("(nada)")
+                                 : postos->campo(QStringLiteral("NomeDoAproveitamento")).paraTexto();
     }
 
     std::unique_ptr<recordstore::Recordset> postos;
@@ -35,9 +37,10 @@ protected:
 
 TEST_F(Colacao, TextSortsIgnoringCaseButNotAccents) {
     // Case ties keep the order of insertion; an accent sorts after its plain letter.
-    EXPECT_EQ(nomes(), QStringList({QStringLiteral("Agua Limpa"), QStringLiteral("Água Vermelha"),
-                                    QStringLiteral("Balbina"), QStringLiteral("furnas"), QStringLiteral("FURNAS"),
-                                    QStringLiteral("Sao Simao"), QStringLiteral("São Simão")}));
+    EXPECT_EQ(nomes(),
+              QStringList({QStringLiteral("Agua Limpa"), QStringLiteral("Água Vermelha"),
+                           QStringLiteral("Balbina"), QStringLiteral("furnas"), QStringLiteral("FURNAS"),
+                           QStringLiteral("Sao Simao"), QStringLiteral("São Simão")}));
 }
 
 TEST_F(Colacao, SeekMatchesAnyCaseButOnlyTheSameAccents) {

@@ -20,9 +20,14 @@ protected:
     // Station 1: 1998 weeks 1-3, 1999 weeks 1-2; station 2: 1998 week 2, 1999 weeks 1 and 3;
     // written out of key order, so that physical order and index order differ.
     void preencheVazoes() {
-        for (const auto& [codigo, ano, semana] : std::vector<std::tuple<int, int, int>>{
-                 {2, 1999, 3}, {1, 1998, 1}, {2, 1998, 2}, {1, 1999, 2}, {1, 1998, 3},
-                 {2, 1999, 1}, {1, 1998, 2}, {1, 1999, 1}}) {
+        for (const auto& [codigo, ano, semana] : std::vector<std::tuple<int, int, int>>{{2, 1999, 3},
+                                                                                        {1, 1998, 1},
+                                                                                        {2, 1998, 2},
+                                                                                        {1, 1999, 2},
+                                                                                        {1, 1998, 3},
+                                                                                        {2, 1999, 1},
+                                                                                        {1, 1998, 2},
+                                                                                        {1, 1999, 1}}) {
             adicionaVazao(*vazoes, codigo, ano, semana, codigo * 10000 + ano % 100 * 100 + semana);
         }
         vazoes->setIndex(QStringLiteral("CodigoDoPostoAnoSemana"));
@@ -254,14 +259,33 @@ TEST_F(Cursor, NullKeysSortFirstAndDescendingKeysWalkDownwards) {
         rs->setCampo(QStringLiteral("Ordem"), ++ordem);
         rs->Update();
     }
+    // A move from a record reached by bookmark seeks afresh from its keys, Null ones included
+    // (0: past the end).
+    const auto vizinhos = [&](bool avanca) {
+        std::vector<recordstore::Bookmark> marcas;
+        for (rs->MoveFirst(); !rs->Eof(); rs->MoveNext()) {
+            marcas.push_back(rs->Bookmark());
+        }
+        Ints lidos;
+        for (const auto marca : marcas) {
+            rs->setBookmark(marca);
+            avanca ? rs->MoveNext() : rs->MovePrevious();
+            lidos.push_back(rs->Bof() || rs->Eof() ? 0 : inteiro(*rs, "Ordem"));
+        }
+        return lidos;
+    };
     rs->setIndex(QStringLiteral("Ano"));
     EXPECT_EQ(ateOFim(*rs, "Ordem"), (Ints{2, 5, 1, 4, 3}));
     rs->MoveLast();
     EXPECT_EQ(ateOFim(*rs, "Ordem", false), (Ints{3, 4, 1, 5, 2}));
+    EXPECT_EQ(vizinhos(true), (Ints{5, 1, 4, 3, 0}));
+    EXPECT_EQ(vizinhos(false), (Ints{0, 2, 5, 1, 4}));
     rs->setIndex(QStringLiteral("AnoDesc"));
     EXPECT_EQ(ateOFim(*rs, "Ordem"), (Ints{3, 1, 4, 2, 5}));
     rs->MoveLast();
     EXPECT_EQ(ateOFim(*rs, "Ordem", false), (Ints{5, 2, 4, 1, 3}));
+    EXPECT_EQ(vizinhos(true), (Ints{1, 4, 2, 5, 0}));
+    EXPECT_EQ(vizinhos(false), (Ints{0, 3, 1, 4, 2}));
     rs->Seek(QStringLiteral(">="), {1999});  // "follows" in the index's own, descending, order
     EXPECT_EQ(inteiro(*rs, "Ordem"), 1);
 }

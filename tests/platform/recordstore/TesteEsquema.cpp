@@ -89,26 +89,30 @@ TEST_F(Esquema, TheSqlite3ShellReadsTheSchemaNaturally) {
     if (esquema.isEmpty()) {
         GTEST_SKIP() << "sqlite3 is not installed";
     }
-    for (const char* trecho : {"\"CodigoDoPosto\" LONG,",
-                               "\"NomeDoAproveitamento\" TEXT(60) COLLATE GERAL CHECK (\"NomeDoAproveitamento\" <> ''),",
-                               "\"AreaDeDrenagem\" SINGLE DEFAULT 0", "\"Ano\" INTEGER,", "\"Semana\" BYTE,",
-                               "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON \"Postos\" (\"CodigoDoPosto\");",
-                               "CREATE INDEX \"Postos.NomeDoAproveitamento\" ON \"Postos\" (\"NomeDoAproveitamento\");",
-                               "CREATE UNIQUE INDEX \"VazoesSemanais.CodigoDoPostoAnoSemana\" ON \"VazoesSemanais\" "
-                               "(\"CodigoDoPosto\", \"Ano\", \"Semana\");",
-                               "\nwal\n"}) {
-        EXPECT_TRUE(esquema.contains(QString::fromUtf8(trecho))) << trecho << "\nnot in\n" << esquema.toStdString();
+    for (const char* trecho :
+         {"\"CodigoDoPosto\" LONG,",
+          "\"NomeDoAproveitamento\" TEXT(60) COLLATE GERAL CHECK (\"NomeDoAproveitamento\" <> ''),",
+          "\"AreaDeDrenagem\" SINGLE DEFAULT 0", "\"Ano\" INTEGER,", "\"Semana\" BYTE,",
+          "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON \"Postos\" (\"CodigoDoPosto\");",
+          "CREATE INDEX \"Postos.NomeDoAproveitamento\" ON \"Postos\" (\"NomeDoAproveitamento\");",
+          "CREATE UNIQUE INDEX \"VazoesSemanais.CodigoDoPostoAnoSemana\" ON \"VazoesSemanais\" "
+          "(\"CodigoDoPosto\", \"Ano\", \"Semana\");",
+          "\nwal\n"}) {
+        EXPECT_TRUE(esquema.contains(QString::fromUtf8(trecho))) << trecho << "\nnot in\n"
+                                                                 << esquema.toStdString();
     }
 }
 
 TEST_F(Esquema, AFileMadeByHandWithTheDeclaredTypesWorksAlike) {
     bd->Close();
     const QString feito = caminho(QStringLiteral("manual.mdb"));
-    sqlite3(feito, QStringLiteral("CREATE TABLE Postos (CodigoDoPosto long, NomeDoAproveitamento text(60), "
-                                  "Flag byte, Area Single DEFAULT 2.5);"
-                                  "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON Postos (CodigoDoPosto);"
-                                  "CREATE INDEX \"Postos.Nome\" ON Postos (NomeDoAproveitamento);"
-                                  "INSERT INTO Postos VALUES (1, 'caconde', 1, 1), (2, 'FURNAS', 2, 2), (3, 'Barra', 3, 3);"));
+    sqlite3(feito,
+            QStringLiteral(
+                "CREATE TABLE Postos (CodigoDoPosto long, NomeDoAproveitamento text(60), "
+                "Flag byte, Area Single DEFAULT 2.5);"
+                "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON Postos (CodigoDoPosto);"
+                "CREATE INDEX \"Postos.Nome\" ON Postos (NomeDoAproveitamento);"
+                "INSERT INTO Postos VALUES (1, 'caconde', 1, 1), (2, 'FURNAS', 2, 2), (3, 'Barra', 3, 3);"));
     if (!QFile::exists(feito)) {
         GTEST_SKIP() << "sqlite3 is not installed";
     }
@@ -142,20 +146,30 @@ TEST_F(Esquema, AFileThatIsNoDatabaseOpensAndFailsAtTheFirstTable) {
 TEST_F(Esquema, FilesAndTablesReportTheEnginesErrors) {
     criaPostos();
     EXPECT_EQ(numeroDoErro([&] { Database::CreateDatabase(caminho()); }), 3204);
-    EXPECT_EQ(numeroDoErro([&] { Database::CreateDatabase(caminho(QStringLiteral("nao/existe.mdb"))); }), 3044);
+    EXPECT_EQ(numeroDoErro([&] { Database::CreateDatabase(caminho(QStringLiteral("nao/existe.mdb"))); }),
+              3044);
     EXPECT_EQ(numeroDoErro([&] { Database::OpenDatabase(caminho(QStringLiteral("outro.mdb"))); }), 3024);
     EXPECT_EQ(numeroDoErro([&] { criaPostos(); }), 3010);
     EXPECT_EQ(numeroDoErro([&] { bd->OpenRecordset(QStringLiteral("Opcoes")); }), 3078);
     EXPECT_EQ(numeroDoErro([&] { bd->Fields(QStringLiteral("Opcoes")); }), 3078);
-    EXPECT_EQ(numeroDoErro([&] { bd->AppendField(QStringLiteral("Postos"), recordstore::CreateField(QStringLiteral("anoinicial"), Tipo::Integer)); }), 0);
-    EXPECT_EQ(numeroDoErro([&] { bd->AppendField(QStringLiteral("Postos"), recordstore::CreateField(QStringLiteral("AnoInicial"), Tipo::Integer)); }), 3191);
+    EXPECT_EQ(numeroDoErro([&] {
+                  bd->AppendField(QStringLiteral("Postos"),
+                                  recordstore::CreateField(QStringLiteral("anoinicial"), Tipo::Integer));
+              }),
+              0);
+    EXPECT_EQ(numeroDoErro([&] {
+                  bd->AppendField(QStringLiteral("Postos"),
+                                  recordstore::CreateField(QStringLiteral("AnoInicial"), Tipo::Integer));
+              }),
+              3191);
     const recordstore::TableDef quebrada{QStringLiteral("Quebrada"),
                                          {recordstore::CreateField(QStringLiteral("A"), Tipo::Long)},
                                          {{QStringLiteral("B"), true, QStringLiteral("A;+B")}}};
     EXPECT_EQ(numeroDoErro([&] { bd->Append(quebrada); }), 3265);
     EXPECT_FALSE(bd->ExisteTabela(QStringLiteral("Quebrada")));
     EXPECT_TRUE(bd->ExisteTabela(QStringLiteral("postos")));
-    EXPECT_EQ(numeroDoErro([&] { bd->Execute(QStringLiteral("DELETE FROM Postos; DELETE FROM Postos")); }), 3142);
+    EXPECT_EQ(numeroDoErro([&] { bd->Execute(QStringLiteral("DELETE FROM Postos; DELETE FROM Postos")); }),
+              3142);
 }
 
 TEST_F(Esquema, SchemaChangesKeepOpenHandlesWorking) {
@@ -177,7 +191,8 @@ TEST_F(Esquema, SchemaChangesKeepOpenHandlesWorking) {
     EXPECT_TRUE(andando->campo(QStringLiteral("CasoUsa53Semanas")).nulo());  // existing rows hold Null
     EXPECT_EQ(inteiro(*parado, "Semana"), 5);
 
-    bd->AppendField(QStringLiteral("VazoesSemanais"), recordstore::CreateField(QStringLiteral("Obs"), Tipo::Texto, 10));
+    bd->AppendField(QStringLiteral("VazoesSemanais"),
+                    recordstore::CreateField(QStringLiteral("Obs"), Tipo::Texto, 10));
     parado->Edit();
     parado->setCampo(QStringLiteral("Obs"), QStringLiteral("cheia"));
     parado->Update();

@@ -103,7 +103,7 @@ TEST_F(Transacoes, ClosingTheDatabaseInvalidatesItsHandles) {
     bd->BeginTrans();
     adicionaPosto(*postos, 2, QStringLiteral("Dois"));
     postos->MoveFirst();
-    bd->Close();  // rolls the open transaction back
+    bd->Close();                                                      // rolls the open transaction back
     EXPECT_FALSE(QFile::exists(caminho() + QStringLiteral("-wal")));  // a closed file can be copied alone
     EXPECT_EQ(numeroDoErro([&] { postos->MoveNext(); }), 3420);
     EXPECT_EQ(numeroDoErro([&] { postos->campo(QStringLiteral("CodigoDoPosto")); }), 3420);

@@ -30,7 +30,8 @@ TEST(Valor, IntegersRoundHalfToEvenAndTrueIsMinusOne) {
     EXPECT_EQ(Valor(-2.5).paraInteiro(), -2);
     EXPECT_EQ(Valor(2.51).paraInteiro(), 3);
     EXPECT_EQ(Valor(true).paraInteiro(), -1);
-    EXPECT_EQ(Valor(std::int64_t{9007199254740993}).paraInteiro(), 9007199254740993);  // past a double's 53 bits
+    EXPECT_EQ(Valor(std::int64_t{9007199254740993}).paraInteiro(),
+              9007199254740993);  // past a double's 53 bits
     EXPECT_EQ(numeroDoErro([] { Valor(1e300).paraInteiro(); }), 6);
 }
 
