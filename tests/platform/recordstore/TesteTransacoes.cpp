@@ -2,7 +2,10 @@
 
 #include <QFile>
 
+#include <atomic>
+#include <chrono>
 #include <stdexcept>
+#include <thread>
 
 using recordstore::Database;
 using recordstore::Transacao;
@@ -155,4 +158,27 @@ TEST_F(Transacoes, TwoHandlesOnOneTableSeeEachOthersWrites) {
     }
     Transacao t(*segundo);
     EXPECT_EQ(contaLinhas(*dele), 5);
+}
+
+TEST_F(Transacoes, ASecondWriterWaitsForTheFirstRatherThanFailing) {
+    auto segundo = Database::OpenDatabase(caminho());
+    bd->BeginTrans();  // takes the write lock at once, before writing anything
+    std::atomic<bool> entrou{false};
+    int erro = -1;
+    std::thread outro([&] {
+        erro = numeroDoErro([&] {
+            segundo->BeginTrans();
+            entrou = true;
+            auto rs = segundo->OpenRecordset(QStringLiteral("Postos"));
+            adicionaPosto(*rs, 2, QStringLiteral("Dois"));
+            segundo->CommitTrans();
+        });
+    });
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_FALSE(entrou);
+    adicionaPosto(*postos, 1, QStringLiteral("Um"));
+    bd->CommitTrans();
+    outro.join();
+    EXPECT_EQ(erro, 0);
+    EXPECT_EQ(codigos(), (Codigos{1, 2}));
 }
