@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QString>
 
+#include <concepts>
 #include <cstdint>
 #include <variant>
 
@@ -27,10 +28,9 @@ class Valor {
 public:
     Valor() = default;  // Null
     Valor(bool v) : m(v) {}
-    Valor(int v) : m(static_cast<std::int64_t>(v)) {}
-    Valor(std::int64_t v) : m(v) {}
-    Valor(std::int16_t v) : m(static_cast<std::int64_t>(v)) {}
-    Valor(std::uint8_t v) : m(static_cast<std::int64_t>(v)) {}
+    template <std::integral T>
+        requires(!std::same_as<T, bool>)
+    Valor(T v) : m(static_cast<std::int64_t>(v)) {}
     Valor(float v) : m(static_cast<double>(v)) {}
     Valor(double v) : m(v) {}
     Valor(const QString& v) : m(v) {}

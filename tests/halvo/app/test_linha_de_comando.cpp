@@ -20,7 +20,7 @@ struct Saida {
 // Runs the built host program, as a user or a script would.
 Saida halvo(const QStringList& argumentos) {
     QProcess processo;
-    processo.start(qEnvironmentVariable("CORVALIN_PASTA_BIN") + QStringLiteral("/halvo"), argumentos);
+    processo.start(QStringLiteral(CORVALIN_PASTA_BIN "/halvo"), argumentos);
     EXPECT_TRUE(processo.waitForFinished(60000));
     return {processo.exitStatus() == QProcess::NormalExit ? processo.exitCode() : -1,
             QString::fromUtf8(processo.readAllStandardOutput()), QString::fromUtf8(processo.readAllStandardError())};
