@@ -7,6 +7,8 @@ class Progresso {
 public:
     virtual ~Progresso() = default;
     virtual void setValue(double valor) = 0;
+    // Takes the progress out of sight, before a message that must not stand behind it.
+    virtual void Esconde() {}
 };
 
 // For operations that nobody watches.
