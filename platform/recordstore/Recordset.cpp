@@ -15,6 +15,13 @@ Recordset::Recordset(std::unique_ptr<Estado> estado) : m(std::move(estado)) {}
 
 Recordset::~Recordset() = default;
 
+std::unique_ptr<Recordset> Recordset::Clone() const {
+    Estado& e = m->verificado();
+    auto clone = std::make_unique<Estado>(e.tabela.conexaoCompartilhada(), e.tabela.meta().nome);
+    clone->cursor.setIndice(e.cursor.indice());
+    return std::unique_ptr<Recordset>(new Recordset(std::move(clone)));
+}
+
 QString Recordset::Name() const {
     return m->verificado().tabela.meta().nome;
 }

@@ -165,6 +165,9 @@ public:
     void CancelUpdate();
     void Delete();  // 3021 without a current record
     void Close();
+    // Clone: another handle on the same table and file, with the same current index, standing on
+    // the first record. Bookmarks are valid across the two; moving one does not move the other.
+    std::unique_ptr<Recordset> Clone() const;
 
     // Reading a field: the edit buffer while an AddNew or Edit is pending, else the current
     // record (3021 without one, 3167 if it was deleted meanwhile). 3265 for an unknown name.

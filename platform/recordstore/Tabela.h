@@ -29,6 +29,11 @@ public:
 
     // 3420 once the file or the handle is closed; reads the metadata again after a change of schema.
     Conexao& conexao();
+    // The open file, for another handle on the same table.
+    std::shared_ptr<Conexao> conexaoCompartilhada() {
+        conexao();
+        return mConexao;
+    }
     const MetaTabela& meta() const { return *mMeta; }
     bool aberta() const { return mAberta && mConexao->aberta(); }
     std::uint64_t epoca() const { return mConexao->epoca(); }

@@ -289,3 +289,24 @@ TEST_F(Cursor, NullKeysSortFirstAndDescendingKeysWalkDownwards) {
     rs->Seek(QStringLiteral(">="), {1999});  // "follows" in the index's own, descending, order
     EXPECT_EQ(inteiro(*rs, "Ordem"), 1);
 }
+
+TEST_F(Cursor, ACloneWalksOnItsOwnAndSharesBookmarks) {
+    adicionaPosto(*postos, 1, QStringLiteral("Tucuruí"));
+    adicionaPosto(*postos, 2, QStringLiteral("Furnas"));
+    adicionaPosto(*postos, 3, QStringLiteral("Itaipu"));
+    postos->setIndex(QStringLiteral("NomeDoAproveitamento"));
+    postos->MoveLast();
+
+    auto clone = postos->Clone();
+    EXPECT_EQ(clone->Index(), QStringLiteral("NomeDoAproveitamento"));
+    EXPECT_EQ(clone->campo(QStringLiteral("CodigoDoPosto")).paraInteiro(), 2) << "a clone starts on the first record";
+    clone->MoveNext();
+    const recordstore::Bookmark itaipu = clone->Bookmark();
+    EXPECT_EQ(postos->campo(QStringLiteral("CodigoDoPosto")).paraInteiro(), 1) << "the original did not move";
+
+    postos->setBookmark(itaipu);
+    EXPECT_EQ(postos->campo(QStringLiteral("NomeDoAproveitamento")).paraTexto(), QStringLiteral("Itaipu"));
+    adicionaPosto(*postos, 4, QStringLiteral("Angra"));
+    clone->MoveFirst();
+    EXPECT_EQ(clone->campo(QStringLiteral("CodigoDoPosto")).paraInteiro(), 4) << "the clone sees the original's writes";
+}
