@@ -66,7 +66,8 @@ void OpcoesBD::getOpcoes(Opcoes& opcoes) const {
     arquivos.ArquivoExcel = tabela.campo(QStringLiteral("ArquivoExcel")).paraTexto();
     arquivos.ArquivoDadosGerais = tabela.campo(QStringLiteral("ArquivoDadosGerais")).paraTexto();
     arquivos.ApagarArquivoRelatorio = tabela.campo(QStringLiteral("ApagarArquivoRelatorio")).paraBool();
-    arquivos.ApagarArquivoVazoesSemanais = tabela.campo(QStringLiteral("ApagarArquivoVazoesSemanais")).paraBool();
+    arquivos.ApagarArquivoVazoesSemanais =
+        tabela.campo(QStringLiteral("ApagarArquivoVazoesSemanais")).paraBool();
     arquivos.ApagarArquivoExcel = tabela.campo(QStringLiteral("ApagarArquivoExcel")).paraBool();
     arquivos.ApagarArquivoDadosGerais = tabela.campo(QStringLiteral("ApagarArquivoDadosGerais")).paraBool();
     arquivos.NaoUsaLimite = tabela.campo(QStringLiteral("NaoUsaLimite")).paraBool();

@@ -41,7 +41,8 @@ void pLeDadosGerais(Recordset& dados, Posto& posto) {
     arquivos.ArquivoExcel = dados.campo(QStringLiteral("ArquivoExcel")).paraTexto();
     arquivos.ArquivoDadosGerais = dados.campo(QStringLiteral("ArquivoDadosGerais")).paraTexto();
     arquivos.ApagarArquivoRelatorio = dados.campo(QStringLiteral("ApagarArquivoRelatorio")).paraBool();
-    arquivos.ApagarArquivoVazoesSemanais = dados.campo(QStringLiteral("ApagarArquivoVazoesSemanais")).paraBool();
+    arquivos.ApagarArquivoVazoesSemanais =
+        dados.campo(QStringLiteral("ApagarArquivoVazoesSemanais")).paraBool();
     arquivos.ApagarArquivoExcel = dados.campo(QStringLiteral("ApagarArquivoExcel")).paraBool();
     arquivos.ApagarArquivoDadosGerais = dados.campo(QStringLiteral("ApagarArquivoDadosGerais")).paraBool();
     arquivos.CasoUsa53Semanas = inteiro<std::uint8_t>(dados, QStringLiteral("CasoUsa53Semanas"));
@@ -67,7 +68,8 @@ void pLeComplemento(Recordset& complemento, Posto& posto, Leitura leitura) {
     posto.AnoInicialPrev = inteiro<std::int16_t>(complemento, QStringLiteral("AnoInicialPrev"));
     const recordstore::Valor arquivo = complemento.campo(QStringLiteral("ArqVazpast"));
     constexpr qsizetype MaiorNomeSemArquivo = 3;
-    const bool emUso = !arquivo.nulo() && (leitura == Leitura::Lista || arquivo.paraTexto().size() > MaiorNomeSemArquivo);
+    const bool emUso =
+        !arquivo.nulo() && (leitura == Leitura::Lista || arquivo.paraTexto().size() > MaiorNomeSemArquivo);
     posto.FlafVazpast = emUso;
     if (emUso) {
         posto.NomeArqVazpast = arquivo.paraTexto();
@@ -128,7 +130,9 @@ void PostoBD::setCasoBD(std::shared_ptr<casoBD> bd) {
     mCasoBD = std::move(bd);
 }
 
-recordstore::Database& PostoBD::BancoDeDados() const { return tabelas::caso(mCasoBD).BancoDeDados(); }
+recordstore::Database& PostoBD::BancoDeDados() const {
+    return tabelas::caso(mCasoBD).BancoDeDados();
+}
 
 void PostoBD::getPostos(plataforma::Vetor<Posto>& postos) const {
     const casoBD& bd = tabelas::caso(mCasoBD);
@@ -156,8 +160,8 @@ bool PostoBD::getPosto(Posto& posto, std::int16_t Modo, std::int32_t Codigo, con
         bool anterior = Modo == BuscaAnterior;
         bool proximo = Modo == BuscaProximo;
         bool ultimo = Modo == BuscaUltimo;
-        achou = bd.TabelaNavegacao(postos, Indice, tabelas::CodigoDoPosto, Codigo, primeiro, anterior, proximo,
-                                   ultimo);
+        achou = bd.TabelaNavegacao(postos, Indice, tabelas::CodigoDoPosto, Codigo, primeiro, anterior,
+                                   proximo, ultimo);
     } else {
         achou = !postos.Bof() && !postos.Eof();
     }

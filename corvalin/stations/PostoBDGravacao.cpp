@@ -65,7 +65,8 @@ void pEscreveComplemento(Recordset& complemento, const Posto& posto) {
     complemento.setCampo(QStringLiteral("VazpastSemana_3"), usaVazpast ? posto.VazpastSemana_3 : 0.0);
     complemento.setCampo(QStringLiteral("VazpastSemana_4"), usaVazpast ? posto.VazpastSemana_4 : 0.0);
     complemento.setCampo(QStringLiteral("FlagLimite"), posto.FlagLimite);
-    complemento.setCampo(QStringLiteral("ArqLimite"), posto.NomeArqLimite.isEmpty() ? SemArquivo : posto.NomeArqLimite);
+    complemento.setCampo(QStringLiteral("ArqLimite"),
+                         posto.NomeArqLimite.isEmpty() ? SemArquivo : posto.NomeArqLimite);
     complemento.setCampo(QStringLiteral("Discretizacao"), posto.discretizacao);
     complemento.setCampo(QStringLiteral("Magnitude"), posto.Magnitude);
 }
@@ -76,7 +77,8 @@ void pEscreveComplemento(Recordset& complemento, const Posto& posto) {
 void pSubstituiPadrao(QString& valor, const QString& textoCodigo, const QString& textoNome) {
     static const QString PadraoCodigo = QStringLiteral("[Código do Posto]");
     static const QString PadraoNome = QStringLiteral("[Nome do Aproveitamento]");
-    for (const auto& [padrao, texto] : {std::pair{&PadraoCodigo, &textoCodigo}, std::pair{&PadraoNome, &textoNome}}) {
+    for (const auto& [padrao, texto] :
+         {std::pair{&PadraoCodigo, &textoCodigo}, std::pair{&PadraoNome, &textoNome}}) {
         if (texto::InStr(valor, *padrao, true) > 0) {
             valor = *texto + texto::Right(valor, valor.size() - padrao->size());
             return;

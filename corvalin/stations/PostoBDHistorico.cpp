@@ -20,7 +20,8 @@ bool PostoBD::getHistorico(const Posto& posto, Historico& vazoes) const {
     }
     bool leu = false;
     while (inteiro<std::int32_t>(tabela, tabelas::CodigoDoPosto) == posto.Codigo) {
-        vazoes(inteiro<int>(tabela, tabelas::Ano) - posto.AnoInicial + 1, inteiro<int>(tabela, tabelas::Semana)) =
+        vazoes(inteiro<int>(tabela, tabelas::Ano) - posto.AnoInicial + 1,
+               inteiro<int>(tabela, tabelas::Semana)) =
             static_cast<float>(tabela.campo(tabelas::Vazao).paraDouble());
         tabela.MoveNext();
         if (tabela.Eof()) {

@@ -25,8 +25,8 @@ float pSingle(const Recordset& tabela, const QString& campo) {
 
 }  // namespace
 
-void PostoBD::setVazoesPrevistas(std::int32_t Codigo, const Vetor<float>& Previsao, const Vetor<float>& LimiteInferior,
-                                 const Vetor<float>& LimiteSuperior) {
+void PostoBD::setVazoesPrevistas(std::int32_t Codigo, const Vetor<float>& Previsao,
+                                 const Vetor<float>& LimiteInferior, const Vetor<float>& LimiteSuperior) {
     const casoBD& bd = tabelas::caso(mCasoBD);
     const int semanas = texto::CByte(Previsao.UBound());
     recordstore::Transacao transacao(bd.BancoDeDados());
