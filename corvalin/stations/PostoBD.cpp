@@ -57,28 +57,26 @@ void pLeVazpast(const Recordset& complemento, Posto& posto) {
 
 // The list reads the Vazpast file name without the length test, so that the stored blank of "no
 // file" reads as a file in use; it reads the four values whatever the name; and it leaves
-// FlagLimite at 0. The screens that list stations rely on none of these, and they are kept as the
-// list always gave them.
+// FlagLimite at 0. Its users have always seen the list so.
 void pLeComplemento(Recordset& complemento, Posto& posto, Leitura leitura) {
     complemento.Seek(QStringLiteral("="), {posto.Codigo});
     if (complemento.NoMatch()) {
         return;
     }
+    const bool lista = leitura == Leitura::Lista;
     posto.SemanaInicialPrev = inteiro<std::int16_t>(complemento, QStringLiteral("SemanaInicialPrev"));
     posto.AnoInicialPrev = inteiro<std::int16_t>(complemento, QStringLiteral("AnoInicialPrev"));
     const recordstore::Valor arquivo = complemento.campo(QStringLiteral("ArqVazpast"));
     constexpr qsizetype MaiorNomeSemArquivo = 3;
-    const bool emUso =
-        !arquivo.nulo() && (leitura == Leitura::Lista || arquivo.paraTexto().size() > MaiorNomeSemArquivo);
-    posto.FlafVazpast = emUso;
-    if (emUso) {
+    posto.FlafVazpast = !arquivo.nulo() && (lista || arquivo.paraTexto().size() > MaiorNomeSemArquivo);
+    if (posto.FlafVazpast) {
         posto.NomeArqVazpast = arquivo.paraTexto();
     }
-    if (emUso || leitura == Leitura::Lista) {
+    if (posto.FlafVazpast || lista) {
         pLeVazpast(complemento, posto);
     }
     posto.AnoFinalHistorico = inteiro<std::int16_t>(complemento, QStringLiteral("AnoFinalHistorico"));
-    if (leitura == Leitura::Posto) {
+    if (!lista) {
         posto.FlagLimite = inteiro<std::uint8_t>(complemento, QStringLiteral("FlagLimite"));
     }
     posto.NomeArqLimite = complemento.campo(QStringLiteral("ArqLimite")).paraTexto();

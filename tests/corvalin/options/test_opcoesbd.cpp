@@ -9,6 +9,7 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using corvalin::Opcoes;
 using corvalin::OpcoesBD;
 
@@ -16,7 +17,7 @@ class OpcoesBDTeste : public ::testing::Test {
 protected:
     OpcoesBDTeste() { opcoesBD.setCasoBD(caso.bd); }
     int linhas() const {
-        auto rs = caso.bd->BancoDeDados().OpenRecordset(QStringLiteral("Opcoes"));
+        auto rs = caso.bd->BancoDeDados().OpenRecordset(u"Opcoes"_s);
         int n = 0;
         for (; !rs->Eof(); rs->MoveNext()) {
             ++n;
@@ -30,9 +31,9 @@ protected:
 
 TEST_F(OpcoesBDTeste, CasoNovoLeTudoVazioSemCriarLinha) {
     Opcoes o;
-    o.setFiltro(2, QStringLiteral("*.dat"));
-    o.setPastaPrevisoes(QStringLiteral("velha"));
-    o.Arquivos.ArquivoExcel = QStringLiteral("x.exc");
+    o.setFiltro(2, u"*.dat"_s);
+    o.setPastaPrevisoes(u"velha"_s);
+    o.Arquivos.ArquivoExcel = u"x.exc"_s;
     o.Arquivos.ApagarArquivoExcel = true;
     o.Arquivos.NaoUsaLimite = true;
     opcoesBD.getOpcoes(o);
@@ -46,25 +47,25 @@ TEST_F(OpcoesBDTeste, CasoNovoLeTudoVazioSemCriarLinha) {
 
 TEST_F(OpcoesBDTeste, DuasGravacoesUmaLinhaEIdaEVolta) {
     Opcoes o;
-    o.setFiltro(1, QStringLiteral("*.dat"));
-    o.setFiltroDescricao(3, QStringLiteral("Previsões"));
-    o.setPastaPrevisoes(QStringLiteral("/previsoes"));
-    o.Arquivos.ArquivoRelatorio = QStringLiteral("[Código do Posto].rel");
+    o.setFiltro(1, u"*.dat"_s);
+    o.setFiltroDescricao(3, u"Previsões"_s);
+    o.setPastaPrevisoes(u"/previsoes"_s);
+    o.Arquivos.ArquivoRelatorio = u"[Código do Posto].rel"_s;
     o.Arquivos.ApagarArquivoVazoesSemanais = true;
     o.Arquivos.NaoUsaLimite = true;
     opcoesBD.setOpcoes(o);
-    o.Arquivos.ArquivoDadosGerais = QStringLiteral("[Nome do Aproveitamento].dat");
+    o.Arquivos.ArquivoDadosGerais = u"[Nome do Aproveitamento].dat"_s;
     opcoesBD.setOpcoes(o);
     EXPECT_EQ(linhas(), 1);
 
     Opcoes lido;
     opcoesBD.getOpcoes(lido);
-    EXPECT_EQ(lido.Filtro(1), QStringLiteral("*.dat"));
+    EXPECT_EQ(lido.Filtro(1), u"*.dat"_s);
     EXPECT_EQ(lido.Filtro(3), QString());
-    EXPECT_EQ(lido.FiltroDescricao(3), QStringLiteral("Previsões"));
-    EXPECT_EQ(lido.PastaPrevisoes(), QStringLiteral("/previsoes") + QDir::separator());
-    EXPECT_EQ(lido.Arquivos.ArquivoRelatorio, QStringLiteral("[Código do Posto].rel"));
-    EXPECT_EQ(lido.Arquivos.ArquivoDadosGerais, QStringLiteral("[Nome do Aproveitamento].dat"));
+    EXPECT_EQ(lido.FiltroDescricao(3), u"Previsões"_s);
+    EXPECT_EQ(lido.PastaPrevisoes(), u"/previsoes"_s + QDir::separator());
+    EXPECT_EQ(lido.Arquivos.ArquivoRelatorio, u"[Código do Posto].rel"_s);
+    EXPECT_EQ(lido.Arquivos.ArquivoDadosGerais, u"[Nome do Aproveitamento].dat"_s);
     EXPECT_TRUE(lido.Arquivos.ApagarArquivoVazoesSemanais);
     EXPECT_FALSE(lido.Arquivos.ApagarArquivoRelatorio);
     EXPECT_TRUE(lido.Arquivos.NaoUsaLimite);
@@ -80,30 +81,30 @@ TEST_F(OpcoesBDTeste, DuasGravacoesUmaLinhaEIdaEVolta) {
 
 TEST_F(OpcoesBDTeste, GravacaoQueFalhaDeixaALinhaComoEstava) {
     Opcoes o;
-    o.setFiltro(1, QStringLiteral("*.dat"));
+    o.setFiltro(1, u"*.dat"_s);
     opcoesBD.setOpcoes(o);
-    o.setFiltro(1, QStringLiteral("*.txt"));
+    o.setFiltro(1, u"*.txt"_s);
     o.setFiltro(2, QString(21, QLatin1Char('x')));  // beyond the field's 20 characters
     EXPECT_THROW(opcoesBD.setOpcoes(o), plataforma::ErroVB);
     Opcoes lido;
     opcoesBD.getOpcoes(lido);
-    EXPECT_EQ(lido.Filtro(1), QStringLiteral("*.dat"));
-    o.setFiltro(2, QStringLiteral("*.arq"));
+    EXPECT_EQ(lido.Filtro(1), u"*.dat"_s);
+    o.setFiltro(2, u"*.arq"_s);
     opcoesBD.setOpcoes(o);
     opcoesBD.getOpcoes(lido);
-    EXPECT_EQ(lido.Filtro(2), QStringLiteral("*.arq")) << "the store goes on working";
+    EXPECT_EQ(lido.Filtro(2), u"*.arq"_s) << "the store goes on working";
     EXPECT_EQ(linhas(), 1);
 }
 
 TEST(OpcoesTeste, RegistroNormalizaAPastaEGuardaTresFiltros) {
     Opcoes o;
-    o.setPastaPrevisoes(QStringLiteral("c"));
-    EXPECT_EQ(o.PastaPrevisoes(), QStringLiteral("c") + QDir::separator());
+    o.setPastaPrevisoes(u"c"_s);
+    EXPECT_EQ(o.PastaPrevisoes(), u"c"_s + QDir::separator());
     o.setPastaPrevisoes(o.PastaPrevisoes());
-    EXPECT_EQ(o.PastaPrevisoes(), QStringLiteral("c") + QDir::separator()) << "one separator only";
+    EXPECT_EQ(o.PastaPrevisoes(), u"c"_s + QDir::separator()) << "one separator only";
     for (const std::int16_t fora : {0, 4}) {
         try {
-            o.setFiltro(fora, QStringLiteral("*.x"));
+            o.setFiltro(fora, u"*.x"_s);
             ADD_FAILURE() << fora;
         } catch (const plataforma::ErroVB& e) {
             EXPECT_EQ(e.Number(), 9);
@@ -112,7 +113,7 @@ TEST(OpcoesTeste, RegistroNormalizaAPastaEGuardaTresFiltros) {
     }
     corvalin::OpcoesArquivos a;
     EXPECT_TRUE(a.Vazio());
-    a.ArquivoExcel = QStringLiteral("x");
+    a.ArquivoExcel = u"x"_s;
     EXPECT_FALSE(a.Vazio());
 }
 

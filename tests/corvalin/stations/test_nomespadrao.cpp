@@ -4,6 +4,7 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using corvalin::Opcoes;
 using corvalin::Posto;
 
@@ -23,34 +24,34 @@ protected:
 };
 
 TEST_F(NomesPadraoTeste, OPadraoAbreONomeEOQueVemAntesSePerde) {
-    Posto p = adiciona(123456789, QStringLiteral("Tucuruí Grande"));
+    Posto p = adiciona(123456789, u"Tucuruí Grande"_s);
     Opcoes padrao;
-    padrao.Arquivos.ArquivoRelatorio = QStringLiteral("[Código do Posto].rel");
-    padrao.Arquivos.ArquivoVazoesSemanais = QStringLiteral("[nome do aproveitamento].dat");
-    padrao.Arquivos.ArquivoPrevisoes = QStringLiteral("abc[Código do Posto]");
-    padrao.Arquivos.ArquivoExcel = QStringLiteral("[CÓDIGO DO POSTO][Nome do Aproveitamento]");
-    padrao.Arquivos.ArquivoDadosGerais = QStringLiteral("fixo.dat");
+    padrao.Arquivos.ArquivoRelatorio = u"[Código do Posto].rel"_s;
+    padrao.Arquivos.ArquivoVazoesSemanais = u"[nome do aproveitamento].dat"_s;
+    padrao.Arquivos.ArquivoPrevisoes = u"abc[Código do Posto]"_s;
+    padrao.Arquivos.ArquivoExcel = u"[CÓDIGO DO POSTO][Nome do Aproveitamento]"_s;
+    padrao.Arquivos.ArquivoDadosGerais = u"fixo.dat"_s;
     const auto nomes = aplica(p, padrao);
-    EXPECT_EQ(nomes[0], QStringLiteral("12345678.rel")) << "the code is cut to eight";
-    EXPECT_EQ(nomes[1], QStringLiteral("Tucuruí .dat")) << "the name is cut to eight, case ignored";
-    EXPECT_EQ(nomes[2], QStringLiteral("12345678to]")) << "what stood before is lost, part of the word stays";
-    EXPECT_EQ(nomes[3], QStringLiteral("12345678[Nome do Aproveitamento]")) << "one replacement only";
-    EXPECT_EQ(nomes[4], QStringLiteral("fixo.dat"));
+    EXPECT_EQ(nomes[0], u"12345678.rel"_s) << "the code is cut to eight";
+    EXPECT_EQ(nomes[1], u"Tucuruí .dat"_s) << "the name is cut to eight, case ignored";
+    EXPECT_EQ(nomes[2], u"12345678to]"_s) << "what stood before is lost, part of the word stays";
+    EXPECT_EQ(nomes[3], u"12345678[Nome do Aproveitamento]"_s) << "one replacement only";
+    EXPECT_EQ(nomes[4], u"fixo.dat"_s);
 }
 
 TEST_F(NomesPadraoTeste, PadraoVazioMantemONomeEAsMarcasVemTodas) {
-    Posto p = adiciona(-7, QStringLiteral("Ita"));
-    p.Arquivos.ArquivoRelatorio = QStringLiteral("proprio.rel");
-    p.Arquivos.ArquivoExcel = QStringLiteral("[Nome do Aproveitamento].exc");
+    Posto p = adiciona(-7, u"Ita"_s);
+    p.Arquivos.ArquivoRelatorio = u"proprio.rel"_s;
+    p.Arquivos.ArquivoExcel = u"[Nome do Aproveitamento].exc"_s;
     p.Arquivos.ApagarArquivoRelatorio = true;
     p.Arquivos.ApagarArquivoExcel = true;
     Opcoes padrao;
-    padrao.Arquivos.ArquivoPrevisoes = QStringLiteral("[Código do Posto].prv");
+    padrao.Arquivos.ArquivoPrevisoes = u"[Código do Posto].prv"_s;
     padrao.Arquivos.ApagarArquivoDadosGerais = true;
     const auto nomes = aplica(p, padrao);
-    EXPECT_EQ(nomes[0], QStringLiteral("proprio.rel"));
-    EXPECT_EQ(nomes[2], QStringLiteral("-7.prv"));
-    EXPECT_EQ(nomes[3], QStringLiteral("Ita.exc")) << "a station's own word is replaced too";
+    EXPECT_EQ(nomes[0], u"proprio.rel"_s);
+    EXPECT_EQ(nomes[2], u"-7.prv"_s);
+    EXPECT_EQ(nomes[3], u"Ita.exc"_s) << "a station's own word is replaced too";
     EXPECT_FALSE(p.Arquivos.ApagarArquivoRelatorio) << "the flags are copied whatever their value";
     EXPECT_FALSE(p.Arquivos.ApagarArquivoExcel);
     EXPECT_TRUE(p.Arquivos.ApagarArquivoDadosGerais);

@@ -6,6 +6,7 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using corvalin::Historico;
 using corvalin::Posto;
 using plataforma::Vetor;
@@ -78,13 +79,12 @@ TEST_F(PrevisoesTeste, PrevisaoComFalhaNaoGravaNada) {
     } catch (const plataforma::ErroVB& e) {
         EXPECT_EQ(e.Number(), 6);
     }
-    EXPECT_EQ(linhas(QStringLiteral("VazoesPrevistas"), 3), 0);
+    EXPECT_EQ(linhas(u"VazoesPrevistas"_s, 3), 0);
 }
 
 TEST_F(PrevisoesTeste, AnterioresAtravessamOAnoConformeAsSemanasDoPosto) {
     for (const bool semanas53 : {false, true}) {
-        Posto p =
-            adiciona(semanas53 ? 2 : 1, semanas53 ? QStringLiteral("B") : QStringLiteral("A"), 1999, 2000);
+        Posto p = adiciona(semanas53 ? 2 : 1, semanas53 ? u"B"_s : u"A"_s, 1999, 2000);
         p.Arquivos.CasoUsa53Semanas = semanas53 ? 1 : 0;
         const int ultima = p.getNumSemanas();
         historico(p, {{1999, ultima - 4},
@@ -103,8 +103,8 @@ TEST_F(PrevisoesTeste, AnterioresAtravessamOAnoConformeAsSemanasDoPosto) {
 }
 
 TEST_F(PrevisoesTeste, AnterioresAndamPorLinhasNaoPorSemanas) {
-    const Posto primeiro = adiciona(1, QStringLiteral("A"), 2000, 2000);
-    const Posto p = adiciona(2, QStringLiteral("B"), 2000, 2000);
+    const Posto primeiro = adiciona(1, u"A"_s, 2000, 2000);
+    const Posto p = adiciona(2, u"B"_s, 2000, 2000);
     historico(primeiro, {{2000, 51}, {2000, 52}});
     historico(p, {{2000, 2}, {2000, 3}, {2000, 5}, {2000, 6}, {2000, 7}, {2000, 8}, {2000, 9}});
     auto [achou, v] = anteriores(p, 10, 2000);
@@ -124,7 +124,7 @@ TEST_F(PrevisoesTeste, LimitesPorTipoSemApagar) {
     postoBD.setLimitesPrevisao(1, 2, pVetor({5, 6}), pVetor({50, 60}));
     postoBD.setLimitesPrevisao(1, 1, pVetor({7, 8}), pVetor({70, 80}));
     postoBD.setLimitesPrevisao(2, 1, pVetor({9}), pVetor({90}));
-    EXPECT_EQ(linhas(QStringLiteral("LimitesPrevisao"), 1, QStringLiteral("Codigo")), 6);
+    EXPECT_EQ(linhas(u"LimitesPrevisao"_s, 1, u"Codigo"_s), 6);
 
     Vetor<std::int16_t> ordem(4);
     Vetor<float> inf(4), sup(4);
