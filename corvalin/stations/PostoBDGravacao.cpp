@@ -7,6 +7,7 @@
 #include "platform/texto/Texto.h"
 
 #include <array>
+#include <utility>
 
 namespace corvalin {
 
