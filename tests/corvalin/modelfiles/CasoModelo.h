@@ -1,0 +1,75 @@
+#pragma once
+
+#include "corvalin/casedb/casoBD.h"
+#include "corvalin/frame/Progresso.h"
+#include "corvalin/modelfiles/PostoARQ.h"
+#include "corvalin/options/OpcoesBD.h"
+#include "corvalin/stations/Historico.h"
+#include "corvalin/stations/Posto.h"
+#include "corvalin/stations/PostoBD.h"
+#include "tests/doubles/HostTeste.h"
+
+#include <QByteArray>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+namespace teste {
+
+// Records what a long operation reports.
+class ProgressoGravador : public corvalin::Progresso {
+public:
+    void setValue(double valor) override { Valores.push_back(valor); }
+    void Esconde() override { ++Escondido; }
+
+    std::vector<double> Valores;
+    int Escondido = 0;
+};
+
+// The two stations of the golden files: São Simão (52 weeks, 1995 to week 30 of 1997) and Três
+// Marias (53 weeks, 2001 to week 20 of 2003).
+corvalin::Posto SaoSimao();
+corvalin::Historico HistoricoSaoSimao();
+corvalin::Posto TresMarias();
+corvalin::Historico HistoricoTresMarias();
+
+// A new case with its stores and the host's doubles, in a folder of its own.
+class CasoModelo : public ::testing::Test {
+public:
+    // Lines as a model file holds them: Windows-1252, each ended by CR LF.
+    static QByteArray linhas(const QStringList& texto);
+
+protected:
+    void SetUp() override;
+    // A golden file under tests/data/modelfiles: its path, its bytes.
+    static QString caminhoDourado(const QString& relativo);
+    static QByteArray dourado(const QString& relativo);
+    static QByteArray conteudo(const QString& caminho);
+    // Writes a file in the test's folder and answers its path.
+    QString arquivo(const QString& nome, const QByteArray& bytes) const;
+    // The run folder of the writers, ending in the separator.
+    QString pastaExecucao() const;
+
+    // Stores a station and its history as the station screen would.
+    void grava(corvalin::Posto posto, const corvalin::Historico& vazoes);
+    // The station of that code as the stores read it; false when there is none.
+    bool le(std::int32_t codigo, corvalin::Posto& posto) const;
+    corvalin::Historico historico(const corvalin::Posto& posto) const;
+    int contaLinhas(const QString& tabela) const;
+
+    HostTeste host;
+    std::shared_ptr<corvalin::casoBD> bd = std::make_shared<corvalin::casoBD>();
+    corvalin::PostoBD postoBD;
+    corvalin::OpcoesBD opcoesBD;
+    const corvalin::PostoARQ arq{};
+    ProgressoGravador progresso;
+    QString erros;
+};
+
+// Same shape and the same values in every position.
+::testing::AssertionResult MesmoHistorico(const corvalin::Historico& esperado, const corvalin::Historico& lido);
+
+}  // namespace teste
