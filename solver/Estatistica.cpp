@@ -22,18 +22,20 @@ double desvioPadrao(std::span<const double> x) {
     return std::sqrt(soma / static_cast<double>(x.size() - 1));
 }
 
-double quantil(std::vector<double> x, double p) {
-    if (x.empty()) {
+double quantilOrdenado(std::span<const double> ordenados, double p) {
+    if (ordenados.empty()) {
         return 0.0;
     }
-    // Selection instead of a full sort: only the two order statistics around p are needed.
-    const double posicao = std::clamp(p, 0.0, 1.0) * static_cast<double>(x.size() - 1);
+    const double posicao = std::clamp(p, 0.0, 1.0) * static_cast<double>(ordenados.size() - 1);
     const auto abaixo = static_cast<std::size_t>(std::floor(posicao));
-    const auto alvo = x.begin() + static_cast<std::ptrdiff_t>(abaixo);
-    std::nth_element(x.begin(), alvo, x.end());
-    const double inferior = *alvo;
-    const double superior = abaixo + 1 < x.size() ? *std::min_element(alvo + 1, x.end()) : inferior;
+    const double inferior = ordenados[abaixo];
+    const double superior = abaixo + 1 < ordenados.size() ? ordenados[abaixo + 1] : inferior;
     return inferior + (posicao - static_cast<double>(abaixo)) * (superior - inferior);
+}
+
+double quantil(std::vector<double> x, double p) {
+    std::sort(x.begin(), x.end());
+    return quantilOrdenado(x, p);
 }
 
 }  // namespace solver

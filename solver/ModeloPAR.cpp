@@ -229,16 +229,6 @@ double ModeloPAR::passo(int semana, EstadoPassado& passado, double inovacao, con
     return fluxo;
 }
 
-Trajetoria ModeloPAR::previsao(std::span<const double> vazoes, std::size_t origem,
-                               const FaixasHorizonte* faixas) const {
-    EstadoPassado passado = estado(vazoes, origem);
-    Trajetoria trajetoria{};
-    for (std::size_t h = 0; h < trajetoria.size(); ++h) {
-        trajetoria[h] = passo(semanaAFrente(origem, h), passado, 0.0, faixas ? &(*faixas)[h] : nullptr);
-    }
-    return trajetoria;
-}
-
 int ModeloPAR::semanaAFrente(std::size_t origem, std::size_t h) const {
     return static_cast<int>((origem + h) % semanas_.size());
 }

@@ -60,9 +60,6 @@ public:
     // One week on: the week's flow for the given innovation (in units of the week's innovation
     // deviation), within the bounds when there are any; the state moves on with it.
     double passo(int semana, EstadoPassado& passado, double inovacao, const Faixa* faixa) const;
-    // The forecast with no innovation: the conditional median of each week ahead, as flows.
-    Trajetoria previsao(std::span<const double> vazoes, std::size_t origem,
-                        const FaixasHorizonte* faixas = nullptr) const;
     // Week of the year of the week h after origem (h = 0 is the origin itself).
     int semanaAFrente(std::size_t origem, std::size_t h) const;
     // Standardised innovations of the week and its neighbours, for resampling.

@@ -54,8 +54,8 @@ PrevisaoEstacao calculaPrevisao(const EntradaEstacao& e) {
     }
     const double confianca = e.dados.intervaloConfianca / 100.0;
     Escolha escolha = escolheModelo(serie, fimAjuste, candidatas(e.dados.transformacao), confianca);
-    ModeloPAR modelo = ModeloPAR::ajusta(serie, fimAjuste, escolha.candidatos[escolha.escolhido].tipo);
-    PrevisaoEstacao p{std::move(serie), fimAjuste, std::move(escolha), std::move(modelo), {}, {}, {}, {}};
+    Previsor previsor(serie, fimAjuste, escolha.getEscolhido().tipo);
+    PrevisaoEstacao p{std::move(serie), fimAjuste, std::move(escolha), std::move(previsor), {}, {}, {}, {}};
     const std::vector<double>& vazoes = p.serie.getVazoes();
     FaixasHorizonte faixas{};
     if (e.limites) {
@@ -65,17 +65,19 @@ PrevisaoEstacao calculaPrevisao(const EntradaEstacao& e) {
         }
     }
     const bool limitaModelo = e.limites && e.dados.flagLimite == limitaModeloEPrevisao;
-    const FaixasHorizonte* faixasDoModelo = limitaModelo ? &faixas : nullptr;
-    const Trajetoria livre = p.modelo.previsao(vazoes, origem);
-    p.previsao = p.modelo.previsao(vazoes, origem, faixasDoModelo);
-    Simulador simulador(p.modelo);
-    p.intervalo =
-        simulador.intervalo(vazoes, origem, confianca, Simulador::trajetoriasPadrao, faixasDoModelo);
+    const PesosPonto& pesos = p.escolha.getEscolhido().pesos;
+    const ResumoCenarios livre = p.previsor.preve(vazoes, origem, confianca, Simulador::trajetoriasPadrao);
+    const ResumoCenarios resumo =
+        limitaModelo ? p.previsor.preve(vazoes, origem, confianca, Simulador::trajetoriasPadrao, &faixas)
+                     : livre;
+    const Trajetoria semLimites = livre.ponto(pesos);
+    p.previsao = resumo.ponto(pesos);
+    p.intervalo = resumo.intervalo;
     for (std::size_t h = 0; h < horizonte; ++h) {
         if (e.limites && !limitaModelo) {
             p.previsao[h] = std::clamp(p.previsao[h], faixas[h].inferior, faixas[h].superior);
         }
-        p.limitada[h] = p.previsao[h] != livre[h];
+        p.limitada[h] = p.previsao[h] != semLimites[h];
         // Bounds that the forecast crossed (limits of the forecast alone) widen to hold it.
         p.intervalo.inferior[h] = std::min(p.intervalo.inferior[h], p.previsao[h]);
         p.intervalo.superior[h] = std::max(p.intervalo.superior[h], p.previsao[h]);

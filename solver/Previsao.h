@@ -5,10 +5,9 @@
 #include "solver/ArquivosEstacao.h"
 #include "solver/DadosGerais.h"
 #include "solver/LimitesPercentis.h"
-#include "solver/ModeloPAR.h"
+#include "solver/Previsor.h"
 #include "solver/Retroteste.h"
 #include "solver/SerieSemanal.h"
-#include "solver/Simulacao.h"
 
 #include <optional>
 
@@ -33,13 +32,13 @@ struct PrevisaoEstacao {
     SerieSemanal serie;
     std::size_t fimAjuste = 0;  // positions [0, fimAjuste) fit the model
     Escolha escolha;
-    ModeloPAR modelo;
+    Previsor previsor;  // the chosen candidate fitted on the whole history
     Trajetoria previsao{};
     Intervalo intervalo;
     std::optional<std::array<LimitesDaSemana, horizonte>> limites;
     std::array<bool, horizonte> limitada{};  // the limits moved that week's forecast
 
-    TipoTransformacao tipoEscolhido() const { return escolha.candidatos[escolha.escolhido].tipo; }
+    TipoTransformacao tipoEscolhido() const { return escolha.getEscolhido().tipo; }
 };
 
 // Throws FalhaExecucao when the history cannot carry a model.

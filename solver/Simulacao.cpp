@@ -1,7 +1,6 @@
 #include "solver/Simulacao.h"
 
-#include "solver/Estatistica.h"
-
+#include <algorithm>
 #include <cmath>
 
 namespace solver {
@@ -16,11 +15,11 @@ double Simulador::pNucleoTriangular() {
     return std::sqrt(6.0) * (u1 + u2 - 1.0);
 }
 
-Intervalo Simulador::intervalo(std::span<const double> vazoes, std::size_t origem, double confianca,
-                               int trajetorias, const FaixasHorizonte* faixas) {
+Cenarios Simulador::simula(std::span<const double> vazoes, std::size_t origem, int trajetorias,
+                           const FaixasHorizonte* faixas) {
     const EstadoPassado inicial = modelo_.estado(vazoes, origem);
-    std::array<std::vector<double>, horizonte> porSemana;
-    for (auto& valores : porSemana) {
+    Cenarios cenarios;
+    for (auto& valores : cenarios) {
         valores.resize(static_cast<std::size_t>(trajetorias));
     }
     for (std::size_t m = 0; m < static_cast<std::size_t>(trajetorias); ++m) {
@@ -33,16 +32,13 @@ Intervalo Simulador::intervalo(std::span<const double> vazoes, std::size_t orige
             const double largura = modelo_.getLarguraNucleo(semana);
             const double inovacao = (residuos[sorteio(gerador_)] + largura * pNucleoTriangular()) /
                                     std::sqrt(1.0 + largura * largura);
-            porSemana[h][m] = modelo_.passo(semana, passado, inovacao, faixas ? &(*faixas)[h] : nullptr);
+            cenarios[h][m] = modelo_.passo(semana, passado, inovacao, faixas ? &(*faixas)[h] : nullptr);
         }
     }
-    Intervalo intervalo;
-    const double cauda = (1.0 - confianca) / 2.0;
-    for (std::size_t h = 0; h < horizonte; ++h) {
-        intervalo.inferior[h] = quantil(porSemana[h], cauda);
-        intervalo.superior[h] = quantil(porSemana[h], 1.0 - cauda);
+    for (auto& valores : cenarios) {
+        std::sort(valores.begin(), valores.end());
     }
-    return intervalo;
+    return cenarios;
 }
 
 }  // namespace solver

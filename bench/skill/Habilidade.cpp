@@ -1,8 +1,9 @@
 #include "bench/skill/Habilidade.h"
 
+#include "solver/Climatologia.h"
 #include "solver/Estatistica.h"
 #include "solver/Formato.h"
-#include "solver/ModeloPAR.h"
+#include "solver/Previsor.h"
 #include "solver/Retroteste.h"
 #include "solver/SerieSemanal.h"
 #include "solver/Simulacao.h"
@@ -39,12 +40,15 @@ struct Avaliacao {
         return placar;
     }
 
-    solver::Placar modelo(solver::TipoTransformacao tipo) const {
-        const solver::ModeloPAR m = solver::ModeloPAR::ajusta(serie, fim, tipo);
-        solver::Simulador simulador(m);
+    // The solver's forecast with a candidate's transformation and point weights, as the program
+    // makes it at each origin.
+    solver::Placar modelo(const solver::Candidato& candidato) const {
+        const solver::Previsor previsor(serie, fim, candidato.tipo);
         return mede([&](std::size_t origem, solver::Trajetoria& p, solver::Intervalo& i) {
-            p = m.previsao(serie.getVazoes(), origem);
-            i = simulador.intervalo(serie.getVazoes(), origem, confiancaAvaliada);
+            const solver::ResumoCenarios resumo = previsor.preve(serie.getVazoes(), origem, confiancaAvaliada,
+                                                                 solver::Simulador::trajetoriasPadrao);
+            p = resumo.ponto(candidato.pesos);
+            i = resumo.intervalo;
         });
     }
 
@@ -72,20 +76,19 @@ struct Avaliacao {
     // The mean of the week of the year; its interval from that week's quantiles.
     solver::Placar climatologia() const {
         const double cauda = (1.0 - confiancaAvaliada) / 2.0;
-        std::vector<double> medias(semanasPorAno);
+        const solver::Climatologia medias(serie, fim);
         std::vector<std::pair<double, double>> faixas(semanasPorAno);
         for (std::size_t s = 0; s < semanasPorAno; ++s) {
             std::vector<double> v;
             for (std::size_t t = s; t < fim; t += semanasPorAno) {
                 v.push_back(serie.vazao(t));
             }
-            medias[s] = solver::media(v);
             faixas[s] = {solver::quantil(v, cauda), solver::quantil(v, 1.0 - cauda)};
         }
         return mede([&](std::size_t origem, solver::Trajetoria& p, solver::Intervalo& i) {
             for (std::size_t h = 0; h < horizonte; ++h) {
                 const std::size_t s = (origem + h) % semanasPorAno;
-                p[h] = medias[s];
+                p[h] = medias.previsao(static_cast<int>(s));
                 i.inferior[h] = faixas[s].first;
                 i.superior[h] = faixas[s].second;
             }
@@ -115,18 +118,18 @@ std::vector<Metodo> avaliaRio(const RioSemanal& rio) {
     vazoes.resize(static_cast<std::size_t>(rio.anosCompletos()) * semanasPorAno);
     const solver::SerieSemanal serie(rio.anoInicial, semanasPorAno, std::move(vazoes));
     const Avaliacao a{serie, serie.tamanho() - anosAvaliados * semanasPorAno};
-    using solver::TipoTransformacao;
     const solver::Escolha escolha =
         solver::escolheModelo(serie, a.fim, solver::candidatas(5), confiancaAvaliada);
-    const TipoTransformacao escolhida = escolha.candidatos[escolha.escolhido].tipo;
-    return {
-        {"Corvalin (escolha: " + solver::nomeTransformacao(escolhida) + ")", a.modelo(escolhida)},
+    std::vector<Metodo> metodos = {
+        {"Corvalin (escolha: " + solver::nomeTransformacao(escolha.getEscolhido().tipo) + ")", {}},
         {"Persistência", a.persistencia()},
         {"Climatologia", a.climatologia()},
-        {"PAR sem transformação", a.modelo(TipoTransformacao::nenhuma)},
-        {"PAR logarítmica", a.modelo(TipoTransformacao::logaritmica)},
-        {"PAR Box-Cox", a.modelo(TipoTransformacao::boxCox)},
     };
+    for (const solver::Candidato& c : escolha.candidatos) {
+        metodos.push_back({"PAR " + solver::nomeTransformacao(c.tipo), a.modelo(c)});
+    }
+    metodos[0].placar = metodos[3 + escolha.escolhido].placar;
+    return metodos;
 }
 
 std::string tabelas(const std::string& rio, const std::vector<Metodo>& metodos) {

@@ -3,8 +3,8 @@
 
 #include "solver/Estatistica.h"
 #include "solver/ModeloPAR.h"
+#include "solver/Previsor.h"
 #include "solver/SerieSemanal.h"
-#include "solver/Simulacao.h"
 #include "solver/Transformacao.h"
 
 #include <gtest/gtest.h>
@@ -88,11 +88,10 @@ TEST(ModeloPAR, IntervaloTemALarguraEAAssimetriaDoProcesso) {
     // mu + sd * 0.6 * z and deviation sd * 0.8 * sigma_z, so the flow's bounds are lognormal.
     const Processo p{std::vector<double>(semanas, 0.6), std::vector<double>(semanas, 0.0), 0.8};
     const auto serie = pSimula(p, 300, 13);
-    const auto modelo = solver::ModeloPAR::ajusta(serie, serie.tamanho(), TipoTransformacao::logaritmica);
+    const solver::Previsor previsor(serie, serie.tamanho(), TipoTransformacao::logaritmica);
     const std::size_t origem = serie.tamanho() - 10;
-    solver::Simulador simulador(modelo);
-    const auto intervalo = simulador.intervalo(serie.getVazoes(), origem, 0.95);
-    const auto previsao = modelo.previsao(serie.getVazoes(), origem);
+    const auto resumo = previsor.preve(serie.getVazoes(), origem, 0.95, solver::Simulador::trajetoriasPadrao);
+    const auto& intervalo = resumo.intervalo;
 
     const auto s = static_cast<std::size_t>(serie.semana(origem));
     const double fase = 2.0 * std::numbers::pi * static_cast<double>(s) / semanas;
@@ -104,14 +103,18 @@ TEST(ModeloPAR, IntervaloTemALarguraEAAssimetriaDoProcesso) {
          0.1 * std::cos(2.0 * std::numbers::pi * static_cast<double>((s + semanas - 1) % semanas) / semanas));
     const double centro = 4.0 + std::sin(fase) + desvio * 0.6 * zAnterior;
     const double meiaLargura = 1.96 * desvio * 0.8;
-    EXPECT_NEAR(std::log(previsao[0]), centro, 0.1);
+    EXPECT_NEAR(std::log(resumo.mediana[0]), centro, 0.1);
     EXPECT_NEAR(std::log(intervalo.inferior[0]), centro - meiaLargura, 0.12);
     EXPECT_NEAR(std::log(intervalo.superior[0]), centro + meiaLargura, 0.12);
     // Back-transformed, the upper side is the wider one.
-    EXPECT_GT(intervalo.superior[0] - previsao[0], previsao[0] - intervalo.inferior[0]);
-    // The same seed gives the same interval.
-    solver::Simulador outro(modelo);
-    EXPECT_EQ(outro.intervalo(serie.getVazoes(), origem, 0.95).superior, intervalo.superior);
+    EXPECT_GT(intervalo.superior[0] - resumo.mediana[0], resumo.mediana[0] - intervalo.inferior[0]);
+    // A lognormal's mean lies above its median; the joint-loss value between the two losses'
+    // optima, below the mean.
+    EXPECT_LT(resumo.perdaConjunta[0], std::exp(centro + 0.5 * meiaLargura * meiaLargura / (1.96 * 1.96)));
+    // The same seed gives the same scenarios, whatever was forecast before.
+    EXPECT_EQ(previsor.preve(serie.getVazoes(), origem, 0.95, solver::Simulador::trajetoriasPadrao)
+                  .intervalo.superior,
+              intervalo.superior);
 }
 
 TEST(Transformacao, IdaEVoltaDeCadaTipo) {
