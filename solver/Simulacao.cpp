@@ -22,17 +22,30 @@ Cenarios Simulador::simula(std::span<const double> vazoes, std::size_t origem, i
     for (auto& valores : cenarios) {
         valores.resize(static_cast<std::size_t>(trajetorias));
     }
+    // What each week ahead draws from, the same for every path.
+    struct Sorteio {
+        int semana;
+        const std::vector<double>* residuos;
+        std::uniform_int_distribution<std::size_t> posicao;
+        double largura;
+        double escala;  // takes the kernel's jitter back out, so the smoothing keeps the variance
+    };
+    std::vector<Sorteio> sorteios;
+    for (std::size_t h = 0; h < horizonte; ++h) {
+        const int semana = modelo_.semanaAFrente(origem, h);
+        const auto& residuos = modelo_.getResiduos(semana);
+        const double largura = modelo_.getLarguraNucleo(semana);
+        sorteios.push_back({semana, &residuos,
+                            std::uniform_int_distribution<std::size_t>(0, residuos.size() - 1), largura,
+                            1.0 / std::sqrt(1.0 + largura * largura)});
+    }
     for (std::size_t m = 0; m < static_cast<std::size_t>(trajetorias); ++m) {
         EstadoPassado passado = inicial;
         for (std::size_t h = 0; h < horizonte; ++h) {
-            const int semana = modelo_.semanaAFrente(origem, h);
-            const auto& residuos = modelo_.getResiduos(semana);
-            std::uniform_int_distribution<std::size_t> sorteio(0, residuos.size() - 1);
-            // The kernel's jitter is scaled back out, so the smoothing keeps the innovations' variance.
-            const double largura = modelo_.getLarguraNucleo(semana);
-            const double inovacao = (residuos[sorteio(gerador_)] + largura * pNucleoTriangular()) /
-                                    std::sqrt(1.0 + largura * largura);
-            cenarios[h][m] = modelo_.passo(semana, passado, inovacao, faixas ? &(*faixas)[h] : nullptr);
+            Sorteio& s = sorteios[h];
+            const double inovacao =
+                ((*s.residuos)[s.posicao(gerador_)] + s.largura * pNucleoTriangular()) * s.escala;
+            cenarios[h][m] = modelo_.passo(s.semana, passado, inovacao, faixas ? &(*faixas)[h] : nullptr);
         }
     }
     for (auto& valores : cenarios) {
