@@ -1,6 +1,8 @@
 #include "corvalin/modelfiles/PostoARQComum.h"
 
 #include "corvalin/modelfiles/PostoARQ.h"
+#include "corvalin/stations/PostoBD.h"
+#include "platform/recordstore/Recordstore.h"
 #include "platform/texto/Texto.h"
 
 #include <QDir>
@@ -25,6 +27,12 @@ void pAdicionaErro(QString& erros, const QString& rotulo) {
 
 QString pCaminhoDoPosto(const QString& pasta, std::int32_t codigo, const QString& nome) {
     return pasta + texto::Trim(texto::Str(codigo)) + QDir::separator() + nome;
+}
+
+void pGravaDadosGerais(const Posto& posto, PostoBD& postoBD) {
+    recordstore::Transacao transacao(postoBD.BancoDeDados());
+    postoBD.setDadosGerais(posto);
+    transacao.Commit();
 }
 
 QString pExtensaoLimites(const QString& nome) {

@@ -6,6 +6,11 @@
 
 #include <cstdint>
 
+namespace corvalin {
+class Posto;
+class PostoBD;
+}  // namespace corvalin
+
 namespace corvalin::postoarq {
 
 // A field of largura + 1 characters: texto and one blank for each count from its length up to
@@ -19,6 +24,9 @@ void pAdicionaErro(QString& erros, const QString& rotulo);
 
 // A station's file in the run folder: the folder text as given, the code and the separator.
 QString pCaminhoDoPosto(const QString& pasta, std::int32_t codigo, const QString& nome);
+
+// Stores the general data of posto in a transaction of its own.
+void pGravaDadosGerais(const Posto& posto, PostoBD& postoBD);
 
 // The name with its last three characters replaced by "lim"; a name shorter than three is a
 // run-time failure.

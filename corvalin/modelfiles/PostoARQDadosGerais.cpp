@@ -6,7 +6,6 @@
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
 #include "halvo/sdk/UtilitariosArquivo.h"
-#include "platform/recordstore/Recordstore.h"
 #include "platform/runtime/ErroVB.h"
 #include "platform/texto/ArquivoTexto.h"
 #include "platform/texto/Texto.h"
@@ -102,14 +101,12 @@ bool PostoARQ::importaDadosGerais(const QString& arquivo, Posto& posto, PostoBD&
         progresso.setValue(0);
         posto.Arquivos.ArquivoDadosGerais = utilitarios.NomeDoArquivo(arquivo);
         pLeLinhas(entrada, posto, progresso);
+        if (!soValida) {
+            postoarq::pGravaDadosGerais(posto, postoBD);
+        }
     } catch (const plataforma::ErroVB&) {
         postoarq::pAdicionaErro(erros, Mensagens::msgDadosGerais);
         return false;
-    }
-    if (!soValida) {
-        recordstore::Transacao transacao(postoBD.BancoDeDados());
-        postoBD.setDadosGerais(posto);
-        transacao.Commit();
     }
     return true;
 }

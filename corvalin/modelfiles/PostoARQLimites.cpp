@@ -44,13 +44,9 @@ bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& pos
     if (!halvo::UtilitariosArquivo().ArquivoExiste(arquivo)) {
         return false;
     }
-    std::uint8_t discretizacao = 0;
-    std::uint8_t magnitude = 0;
-    plataforma::Vetor<float> limiteInferior;
-    plataforma::Vetor<float> limiteSuperior;
     try {
         ArquivoEntrada entrada(arquivo);
-        discretizacao = CByte(Val(entrada.LineInput()));
+        const std::uint8_t discretizacao = CByte(Val(entrada.LineInput()));
         // This message names NumeroPosto, which is never set, where the next names the code; both
         // keep Str's leading blank.
         if (!pCodigoValido(discretizacao)) {
@@ -60,15 +56,15 @@ bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& pos
             return false;
         }
         const int periodos = pPeriodos(discretizacao, posto);
-        magnitude = CByte(Val(entrada.LineInput()));
+        const std::uint8_t magnitude = CByte(Val(entrada.LineInput()));
         if (!pCodigoValido(magnitude)) {
             mensagem = posto.Nome + QStringLiteral(" - ") + QString::number(posto.Codigo) + u':' +
                        QStringLiteral("Valor inválido para a divisão da magnitude de vazão (") + Str(magnitude) +
                        QStringLiteral(").");
             return false;
         }
-        limiteInferior.ReDim(periodos);
-        limiteSuperior.ReDim(periodos);
+        plataforma::Vetor<float> limiteInferior(periodos);
+        plataforma::Vetor<float> limiteSuperior(periodos);
         // The period number in the line decides the position, not the line's place.
         for (int periodo = 1; periodo <= periodos; ++periodo) {
             if (entrada.Eof()) {
@@ -82,17 +78,17 @@ bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& pos
             limiteInferior[ordem] = CSng(LeNumero(Mid(linha, 4, 4)));
             limiteSuperior[ordem] = CSng(LeNumero(Mid(linha, 9, 4)));
         }
+        posto.Magnitude = magnitude;
+        posto.discretizacao = discretizacao;
+        posto.NomeArqLimite = postoarq::pExtensaoLimites(posto.NomeArqLimite);
+
+        recordstore::Transacao transacao(postoBD.BancoDeDados());
+        postoBD.setLimitesPrevisao(posto.Codigo, discretizacao, limiteInferior, limiteSuperior);
+        postoBD.setDadosGerais(posto);
+        transacao.Commit();
     } catch (const plataforma::ErroVB&) {
         return false;
     }
-    posto.Magnitude = magnitude;
-    posto.discretizacao = discretizacao;
-    posto.NomeArqLimite = postoarq::pExtensaoLimites(posto.NomeArqLimite);
-
-    recordstore::Transacao transacao(postoBD.BancoDeDados());
-    postoBD.setLimitesPrevisao(posto.Codigo, discretizacao, limiteInferior, limiteSuperior);
-    postoBD.setDadosGerais(posto);
-    transacao.Commit();
     return true;
 }
 

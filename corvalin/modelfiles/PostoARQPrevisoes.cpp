@@ -53,12 +53,12 @@ bool PostoARQ::importaPRV(const QString& arquivo, const Posto& posto, PostoBD& p
         pLeSemanas(linhas[0], previsao);
         pLeSemanas(linhas[1], limiteInferior);
         pLeSemanas(linhas[2], limiteSuperior);
+        recordstore::Transacao transacao(postoBD.BancoDeDados());
+        postoBD.setVazoesPrevistas(posto.Codigo, previsao, limiteInferior, limiteSuperior);
+        transacao.Commit();
     } catch (const plataforma::ErroVB&) {
         return false;
     }
-    recordstore::Transacao transacao(postoBD.BancoDeDados());
-    postoBD.setVazoesPrevistas(posto.Codigo, previsao, limiteInferior, limiteSuperior);
-    transacao.Commit();
     return true;
 }
 

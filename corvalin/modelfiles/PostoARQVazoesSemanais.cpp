@@ -128,20 +128,20 @@ bool PostoARQ::importaVazoesSemanais(const QString& arquivo, QString& erros, Pro
             pAdicionaErro(erros, Mensagens::msgVazoesSemanais + detalhe);
             return false;
         }
+        // A store that refuses what the file holds fails the import as the file itself would.
+        recordstore::Transacao transacao(postoBD.BancoDeDados());
+        postoBD.setPosto(posto);
+        postoBD.setHistorico(posto, vazoes);
+        if (!semNomesPadrao) {
+            Opcoes opcoes;
+            opcoesBD.getOpcoes(opcoes);
+            postoBD.setNomesPadrao(posto, opcoes);
+        }
+        transacao.Commit();
     } catch (const plataforma::ErroVB&) {
         pAdicionaErro(erros, Mensagens::msgVazoesSemanais);
         return false;
     }
-
-    recordstore::Transacao transacao(postoBD.BancoDeDados());
-    postoBD.setPosto(posto);
-    postoBD.setHistorico(posto, vazoes);
-    if (!semNomesPadrao) {
-        Opcoes opcoes;
-        opcoesBD.getOpcoes(opcoes);
-        postoBD.setNomesPadrao(posto, opcoes);
-    }
-    transacao.Commit();
     return true;
 }
 

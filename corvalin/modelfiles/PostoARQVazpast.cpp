@@ -5,7 +5,6 @@
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
 #include "halvo/sdk/UtilitariosArquivo.h"
-#include "platform/recordstore/Recordstore.h"
 #include "platform/runtime/ErroVB.h"
 #include "platform/texto/ArquivoTexto.h"
 #include "platform/texto/Texto.h"
@@ -64,14 +63,12 @@ bool PostoARQ::importaVazpast(QString& arquivo, Posto& posto, PostoBD& postoBD, 
                 break;
             }
         }
+        if (!soValida) {
+            postoarq::pGravaDadosGerais(posto, postoBD);
+        }
     } catch (const plataforma::ErroVB&) {
         postoarq::pAdicionaErro(erros, Mensagens::msgVazpasts);
         return false;
-    }
-    if (!soValida) {
-        recordstore::Transacao transacao(postoBD.BancoDeDados());
-        postoBD.setDadosGerais(posto);
-        transacao.Commit();
     }
     return true;
 }
