@@ -1,40 +1,41 @@
 #include "halvo/app/CasoPasta.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace halvo {
 
-CasoPasta::CasoPasta(const QString& pasta, bool somenteLeitura)
-    : mCriacao(QDateTime::currentDateTime()),
-      mSomenteLeitura(somenteLeitura) {
-    const QFileInfo info(pasta);
-    mDiretorio = QDir::toNativeSeparators(QDir::cleanPath(info.absoluteFilePath())) + QDir::separator();
-    mNome = QDir(info.absoluteFilePath()).dirName();
-    mEstudo = QFileInfo(QDir::cleanPath(info.absoluteFilePath())).dir().dirName();
+CasoPasta::CasoPasta(EntradaCaso entrada) : mEntrada(std::move(entrada)) {}
+
+CasoPasta::CasoPasta(const QString& pasta) : mEntrada(EntradaCaso::DaPasta(pasta)) {}
+
+bool CasoPasta::SomenteLeitura() const {
+    return mEntrada.SomenteLeitura;
 }
 
-bool CasoPasta::SomenteLeitura() const { return mSomenteLeitura; }
-
 QString CasoPasta::Item(const QString& nome) const {
-    const auto eh = [&nome](const char* item) { return nome.compare(QLatin1String(item), Qt::CaseInsensitive) == 0; };
+    const auto eh = [&nome](const char* item) {
+        return nome.compare(QLatin1String(item), Qt::CaseInsensitive) == 0;
+    };
     if (eh("Diretorio")) {
-        return mDiretorio;
+        return mEntrada.Pasta + QDir::separator();
     }
     if (eh("Nome")) {
-        return mNome;
+        return mEntrada.Nome;
     }
     if (eh("estudo")) {
-        return mEstudo;
+        return mEntrada.Estudo;
     }
     if (eh("Codigo")) {
-        return QStringLiteral("0");
+        return QString::number(mEntrada.Codigo);
+    }
+    if (eh("Descricao")) {
+        return mEntrada.Descricao;
     }
     if (eh("DataCriacao")) {
-        return mCriacao.date().toString(Qt::ISODate);
+        return mEntrada.Criacao.date().toString(Qt::ISODate);
     }
     if (eh("HoraCriacao")) {
-        return mCriacao.time().toString(Qt::ISODate);
+        return mEntrada.Criacao.time().toString(Qt::ISODate);
     }
     return {};
 }

@@ -1,30 +1,27 @@
 #pragma once
 
+#include "halvo/app/EntradaCaso.h"
 #include "halvo/sdk/Caso.h"
-
-#include <QDateTime>
-#include <QString>
 
 namespace halvo {
 
-// A case given by its folder, as the command line names it: the folder answers "Diretorio" (with
-// its separator), its name is the case's name, its parent folder's name the study, and the clock
-// gives the dates. Item names are answered in either case ("Nome" and "nome").
+// The host's case object, answering a model from what the host keeps of the case: "Diretorio"
+// (the folder with its separator), "Codigo", "estudo", "Nome", "Descricao", and the creation's
+// "DataCriacao" and "HoraCriacao" in ISO form. Item names are answered in either case ("Nome"
+// and "nome"). The read-only flag may change while the case is open; screens opened later see it.
 class CasoPasta : public caso {
 public:
-    explicit CasoPasta(const QString& pasta, bool somenteLeitura = false);
+    explicit CasoPasta(EntradaCaso entrada);
+    // A case named on the command line by its folder.
+    explicit CasoPasta(const QString& pasta);
 
     bool SomenteLeitura() const override;
     QString Item(const QString& nome) const override;
 
-    const QString& Diretorio() const { return mDiretorio; }
+    void setSomenteLeitura(bool somenteLeitura) { mEntrada.SomenteLeitura = somenteLeitura; }
 
 private:
-    QString mDiretorio;
-    QString mNome;
-    QString mEstudo;
-    QDateTime mCriacao;
-    bool mSomenteLeitura;
+    EntradaCaso mEntrada;
 };
 
 }  // namespace halvo

@@ -1,19 +1,13 @@
 #include "halvo/app/LinhaDeComando.h"
 
 #include "halvo/app/CasoPasta.h"
+#include "halvo/app/Grupos.h"
 #include "halvo/app/Modelos.h"
 #include "halvo/sdk/NotificadorRegistro.h"
 #include "halvo/sdk/IModelo.h"
 #include "platform/runtime/ErroVB.h"
 
 namespace halvo {
-
-namespace {
-
-// The host's names of the groups of screens that a model offers.
-const char16_t* const NomesDosGrupos[] = {u"Cadastro", u"Importação", u"Execução", u"Resultados"};
-
-}  // namespace
 
 LinhaDeComando::LinhaDeComando(const Modelos& modelos, QTextStream& saida, QTextStream& erro)
     : mModelos(modelos), mSaida(saida), mErro(erro) {
@@ -58,10 +52,16 @@ int LinhaDeComando::Executa(const QStringList& argumentos) {
 }
 
 int LinhaDeComando::pAjuda() {
-    mSaida << QStringLiteral("uso: halvo COMANDO [ARGUMENTOS]") << Qt::endl << Qt::endl
+    const auto linha = [this](const QString& uso, const QString& descricao) {
+        mSaida << QStringLiteral("  %1%2").arg(uso, -26).arg(descricao) << Qt::endl;
+    };
+    mSaida << QStringLiteral("uso: halvo [COMANDO [ARGUMENTOS]]") << Qt::endl << Qt::endl
+           << QStringLiteral("Sem comando, abre a janela do Halvo.") << Qt::endl << Qt::endl
            << QStringLiteral("Comandos:") << Qt::endl;
+    // The window is opened by the program itself, before a console command would run.
+    linha(QStringLiteral("janela [PASTA]"), QStringLiteral("abre a janela, com o caso da pasta aberto"));
     for (const auto& [nome, comando] : mComandos) {
-        mSaida << QStringLiteral("  %1%2").arg(comando.uso, -26).arg(comando.descricao) << Qt::endl;
+        linha(comando.uso, comando.descricao);
     }
     mSaida << Qt::endl << QStringLiteral("O código de saída é 0 quando o comando termina bem.") << Qt::endl;
     return 0;
@@ -92,7 +92,7 @@ int LinhaDeComando::pInfo() {
         if (!telas) {
             continue;
         }
-        mSaida << QStringLiteral("  %1").arg(QString::fromUtf16(NomesDosGrupos[grupo - 1])) << Qt::endl;
+        mSaida << QStringLiteral("  %1").arg(NomeDoGrupo(grupo)) << Qt::endl;
         for (std::size_t item = 1; item < telas->size(); ++item) {
             const EntradaTela& tela = (*telas)[item];
             if (tela.Flag && item > 1) {

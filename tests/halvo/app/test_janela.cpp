@@ -1,0 +1,323 @@
+#include "halvo/app/DialogoNovoCaso.h"
+#include "halvo/app/JanelaPrincipal.h"
+#include "halvo/app/ListaDeCasos.h"
+#include "halvo/app/PainelCasos.h"
+#include "halvo/app/UtilitariosSistemaGui.h"
+#include "halvo/sdk/Caso.h"
+#include "halvo/sdk/IModelo.h"
+#include "halvo/sdk/Notificador.h"
+#include "halvo/sdk/Servicos.h"
+#include "tests/doubles/DialogoRoteirizado.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStandardPaths>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <map>
+
+namespace {
+
+using halvo::EntradaTela;
+
+// A model that keeps what the host gives it and opens plain widgets as its screens.
+class ModeloFalso : public halvo::IModelo {
+public:
+    struct Abertura {
+        std::int16_t item;
+        std::int32_t grupo;
+        QObject* contexto;
+    };
+
+    std::map<std::int32_t, std::vector<EntradaTela>> telas;
+    std::shared_ptr<halvo::caso> caso;
+    std::shared_ptr<halvo::Notificador> notificador;
+    std::vector<Abertura> aberturas;
+    QStringList criados;
+    QStringList apagados;
+    int fechamentos = 0;
+
+    QString Modelo() const override { return QStringLiteral("Falso"); }
+    QString Descricao() const override { return QStringLiteral("Modelo de teste"); }
+    QString VersaoModelo() const override { return QStringLiteral("1.0"); }
+    QString VersaoInterface() const override { return QStringLiteral("3.0.0.1"); }
+    std::int32_t CodigoDoCaso() const override { return caso->Item(QStringLiteral("Codigo")).toInt(); }
+    std::int32_t ModeloCodigo() const override { return 99; }
+
+    std::int16_t AbrirCaso(std::shared_ptr<halvo::caso> c, std::shared_ptr<halvo::Notificador> n) override {
+        caso = std::move(c);
+        notificador = std::move(n);
+        return 1;
+    }
+    std::int16_t CriarCaso(const QString& pasta) override {
+        criados << pasta;
+        return QDir().mkpath(pasta) ? 1 : 0;
+    }
+    std::int16_t CopiarCaso(QString&, QString&) override { return 0; }
+    std::int16_t FecharCaso() override {
+        ++fechamentos;
+        return 1;
+    }
+    std::int16_t ApagarCaso(const QString& pasta) override {
+        apagados << pasta;
+        return QDir(pasta).removeRecursively() ? 1 : 0;
+    }
+    std::int16_t JanelaAbrir(std::int16_t item, std::int32_t grupo, QObject* contexto) override {
+        aberturas.push_back({item, grupo, contexto});
+        auto* tela = new QWidget;
+        halvo::UtilitariosSistema& sistema = halvo::Servicos::sistema();
+        sistema.JanelaFilha(tela, contexto);
+        sistema.JanelaRegistra(tela, caso->Item(QStringLiteral("estudo")),
+                               caso->Item(QStringLiteral("codigo")), grupo, item);
+        tela->setWindowTitle(QStringLiteral("%1 (%2)").arg(telas.at(grupo).at(item).Titulo,
+                                                           caso->Item(QStringLiteral("nome"))));
+        tela->show();
+        return 1;
+    }
+    std::optional<std::vector<EntradaTela>> Telas(std::int32_t grupo) const override {
+        const auto grupoAchado = telas.find(grupo);
+        return grupoAchado == telas.end() ? std::nullopt : std::optional(grupoAchado->second);
+    }
+    std::int16_t Executar(std::shared_ptr<halvo::Notificador> n) override {
+        n->Notifica(*caso, halvo::EventoExecucaoSemErro);
+        return 1;
+    }
+    std::int16_t Converter(const QVariant&) override { return 0; }
+    std::int16_t Importar(const QVariant&) override { return 0; }
+    std::int16_t Exportar(const QVariant&) override { return 0; }
+};
+
+class TesteJanela : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void menusDasTelasSoComCasoAberto();
+    void somenteLeituraChegaAoCasoEFicaGravado();
+    void eventosNaBarraDeEstado();
+    void novoCasoListadoEApagadoComSuasTelas();
+
+private:
+    QAction& acao(const char* nome) const;
+    void abre(std::int32_t codigo);
+    std::int32_t lista(const QString& estudo, const QString& nome);
+
+    std::unique_ptr<QTemporaryDir> mPasta;
+    teste::DialogoRoteirizado mDialogo;
+    halvo::UtilitariosSistemaGui mSistema;
+    std::unique_ptr<halvo::InstalacaoServicos> mServicos;
+    ModeloFalso mModelo;
+    std::unique_ptr<halvo::ListaDeCasos> mLista;
+    std::unique_ptr<halvo::JanelaPrincipal> mJanela;
+};
+
+void TesteJanela::initTestCase() {
+    QStandardPaths::setTestModeEnabled(true);
+}
+
+void TesteJanela::init() {
+    mPasta = std::make_unique<QTemporaryDir>();
+    QFile::remove(halvo::ListaDeCasos::ArquivoPadrao());
+    mServicos = std::make_unique<halvo::InstalacaoServicos>(&mDialogo, &mSistema, nullptr);
+    mModelo = ModeloFalso();
+    mModelo.telas[1] = {{},
+                        {QStringLiteral("Opções"), 4, true},
+                        {QStringLiteral("Dados Gerais"), 4, false},
+                        {QStringLiteral("Histórico"), 1, true},
+                        {QStringLiteral("Limites"), 1, false}};
+    mModelo.telas[3] = {{}, {QStringLiteral("Execução"), 0, true}};
+    mLista = std::make_unique<halvo::ListaDeCasos>();
+    lista(QStringLiteral("Estudo A"), QStringLiteral("Caso 1"));
+    lista(QStringLiteral("Estudo A"), QStringLiteral("Caso 2"));
+    mJanela = std::make_unique<halvo::JanelaPrincipal>(mModelo, *mLista);
+    mSistema.setPrincipal(mJanela.get());
+}
+
+void TesteJanela::cleanup() {
+    mJanela.reset();
+    mLista.reset();
+    mServicos.reset();
+    mDialogo.limpa();
+    mPasta.reset();
+}
+
+QAction& TesteJanela::acao(const char* nome) const {
+    auto* achada = mJanela->findChild<QAction*>(QString::fromLatin1(nome));
+    if (achada == nullptr) {
+        qFatal("no action %s", nome);
+    }
+    return *achada;
+}
+
+void TesteJanela::abre(std::int32_t codigo) {
+    mJanela->findChild<halvo::PainelCasos*>()->Seleciona(codigo);
+    acao("acaoAbrir").trigger();
+}
+
+std::int32_t TesteJanela::lista(const QString& estudo, const QString& nome) {
+    halvo::EntradaCaso entrada;
+    entrada.Estudo = estudo;
+    entrada.Nome = nome;
+    entrada.Pasta = mPasta->filePath(estudo + u'/' + nome);
+    QDir().mkpath(entrada.Pasta);
+    return mLista->Adiciona(entrada);
+}
+
+void TesteJanela::menusDasTelasSoComCasoAberto() {
+    QStringList menus;
+    for (QAction* menu : mJanela->menuBar()->actions()) {
+        menus << menu->text();
+    }
+    QCOMPARE(menus,
+             (QStringList{QStringLiteral("&Caso"), QStringLiteral("&Cadastro"), QStringLiteral("&Execução"),
+                          QStringLiteral("&Janela"), QStringLiteral("A&juda")}));
+    QStringList cadastro;
+    for (QAction* item : mJanela->findChild<QMenu*>(QStringLiteral("menuGrupo_1"))->actions()) {
+        cadastro << (item->isSeparator() ? QStringLiteral("--") : item->text());
+    }
+    QCOMPARE(cadastro,
+             (QStringList{QStringLiteral("Opções"), QStringLiteral("Dados Gerais"), QStringLiteral("--"),
+                          QStringLiteral("Histórico"), QStringLiteral("Limites")}));
+    QVERIFY(!acao("acaoTela_1_3").isEnabled());
+    QVERIFY(!acao("acaoExecutar").isEnabled());
+    QVERIFY(!acao("acaoFechar").isEnabled());
+    QVERIFY(!acao("acaoAbrir").isEnabled());
+
+    abre(1);
+    QCOMPARE(mModelo.caso->Item(QStringLiteral("nome")), QStringLiteral("Caso 1"));
+    QCOMPARE(mModelo.caso->Item(QStringLiteral("Codigo")), QStringLiteral("1"));
+    QCOMPARE(
+        mModelo.caso->Item(QStringLiteral("Diretorio")),
+        QDir::toNativeSeparators(mPasta->filePath(QStringLiteral("Estudo A/Caso 1"))) + QDir::separator());
+    QVERIFY(acao("acaoTela_1_3").isEnabled());
+    QVERIFY(!acao("acaoAbrir").isEnabled());
+    QCOMPARE(mJanela->windowTitle(), QStringLiteral("Halvo - Estudo A / Caso 1"));
+
+    acao("acaoTela_1_3").trigger();
+    QCOMPARE(mModelo.aberturas.size(), 1u);
+    QCOMPARE(mModelo.aberturas[0].item, 3);
+    QCOMPARE(mModelo.aberturas[0].grupo, 1);
+    QCOMPARE(mModelo.aberturas[0].contexto, &mJanela->Area());
+    const QList<QMdiSubWindow*> subjanelas = mJanela->Area().subWindowList();
+    QCOMPARE(subjanelas.size(), 1);
+    QCOMPARE(subjanelas[0]->windowTitle(), QStringLiteral("Histórico (Caso 1)"));
+    const auto registro = halvo::UtilitariosSistemaGui::RegistroDe(*subjanelas[0]->widget());
+    QVERIFY(registro.has_value());
+    QCOMPARE(registro->estudo, QStringLiteral("Estudo A"));
+    QCOMPARE(registro->caso, QStringLiteral("1"));
+    QCOMPARE(registro->grupo, 1);
+    QCOMPARE(registro->item, 3);
+
+    // Another case closes the first one; closing a case leaves its screens.
+    abre(2);
+    QCOMPARE(mModelo.fechamentos, 1);
+    acao("acaoFechar").trigger();
+    QCOMPARE(mModelo.fechamentos, 2);
+    QVERIFY(!acao("acaoTela_1_3").isEnabled());
+    QCOMPARE(mJanela->Area().subWindowList().size(), 1);
+    QCOMPARE(mJanela->windowTitle(), QStringLiteral("Halvo"));
+}
+
+void TesteJanela::somenteLeituraChegaAoCasoEFicaGravado() {
+    mJanela->findChild<halvo::PainelCasos*>()->Seleciona(2);
+    QVERIFY(!acao("acaoSomenteLeitura").isChecked());
+    acao("acaoSomenteLeitura").trigger();
+    abre(2);
+    QVERIFY(mModelo.caso->SomenteLeitura());
+    QVERIFY(acao("acaoSomenteLeitura").isChecked());
+
+    halvo::ListaDeCasos relida;
+    QVERIFY(relida.Carrega());
+    QVERIFY(relida.Procura(2)->SomenteLeitura);
+    QVERIFY(!relida.Procura(1)->SomenteLeitura);
+
+    // The open case's object follows, for the screens opened from now on.
+    acao("acaoSomenteLeitura").trigger();
+    QVERIFY(!mModelo.caso->SomenteLeitura());
+    QVERIFY(relida.Carrega());
+    QVERIFY(!relida.Procura(2)->SomenteLeitura);
+}
+
+void TesteJanela::eventosNaBarraDeEstado() {
+    abre(1);
+    acao("acaoExecutar").trigger();
+    QCOMPARE(mJanela->statusBar()->currentMessage(), QStringLiteral("Execução concluída com sucesso."));
+    const std::vector<std::pair<std::int32_t, QString>> eventos{
+        {0, QStringLiteral("Importação terminada com problemas.")},
+        {1, QStringLiteral("Importação concluída.")},
+        {3, QStringLiteral("Alterações gravadas.")},
+        {5, QStringLiteral("Execução terminada com erros.")},
+        {42, QStringLiteral("Evento 42.")}};
+    for (const auto& [evento, frase] : eventos) {
+        mModelo.notificador->Notifica(*mModelo.caso, evento);
+        QCOMPARE(mJanela->statusBar()->currentMessage(), frase);
+    }
+}
+
+void TesteJanela::novoCasoListadoEApagadoComSuasTelas() {
+    const QString pasta = QDir::toNativeSeparators(mPasta->filePath(QStringLiteral("Estudo B/Novo")));
+    QTimer::singleShot(0, this, [&] {
+        auto* dialogo = qobject_cast<halvo::DialogoNovoCaso*>(QApplication::activeModalWidget());
+        QVERIFY(dialogo != nullptr);
+        dialogo->findChild<QComboBox*>(QStringLiteral("CboEstudo"))
+            ->setCurrentText(QStringLiteral("Estudo B"));
+        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtNome"))->setText(QStringLiteral("Novo"));
+        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtDescricao"))
+            ->setText(QStringLiteral("Cheia de 1983"));
+        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtPasta"))->setText(pasta);
+        dialogo->accept();
+    });
+    acao("acaoNovo").trigger();
+    QCOMPARE(mModelo.criados, QStringList{pasta});
+
+    halvo::ListaDeCasos relida;
+    QVERIFY(relida.Carrega());
+    const halvo::EntradaCaso* novo = relida.ProcuraPasta(pasta);
+    QVERIFY(novo != nullptr);
+    QCOMPARE(novo->Codigo, 3);
+    QCOMPARE(novo->Estudo, QStringLiteral("Estudo B"));
+    QCOMPARE(novo->Descricao, QStringLiteral("Cheia de 1983"));
+    QVERIFY(novo->Criacao.isValid());
+
+    // A screen of the case goes with it; a screen of another case stays.
+    abre(1);
+    acao("acaoTela_3_1").trigger();
+    abre(3);
+    QCOMPARE(mModelo.caso->Item(QStringLiteral("Descricao")), QStringLiteral("Cheia de 1983"));
+    acao("acaoTela_1_1").trigger();
+    QCOMPARE(mJanela->Area().subWindowList().size(), 2);
+
+    mDialogo.responde(halvo::Resposta::Nao);
+    acao("acaoApagar").trigger();
+    QVERIFY(QDir(pasta).exists());
+    mDialogo.responde(halvo::Resposta::Sim);
+    acao("acaoApagar").trigger();
+    QCOMPARE(mDialogo.Mensagens().size(), 2u);
+    QCOMPARE(mDialogo.Mensagens()[1].titulo, QStringLiteral("Confirmação"));
+    QCOMPARE(mModelo.apagados, QStringList{pasta});
+    QVERIFY(!QDir(pasta).exists());
+    QCOMPARE(mJanela->Area().subWindowList().size(), 1);
+    QCOMPARE(mJanela->Area().subWindowList()[0]->windowTitle(), QStringLiteral("Execução (Caso 1)"));
+    QVERIFY(!mJanela->Gerente().Aberto().has_value());
+    QVERIFY(relida.Carrega());
+    QVERIFY(relida.ProcuraPasta(pasta) == nullptr);
+    QCOMPARE(relida.Casos().size(), 2u);
+}
+
+}  // namespace
+
+QTEST_MAIN(TesteJanela)
+#include "test_janela.moc"
