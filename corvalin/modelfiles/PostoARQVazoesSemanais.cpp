@@ -25,6 +25,7 @@ using postoarq::pAdicionaErro;
 constexpr int LinhasPorAno = 6;
 constexpr int ValoresPorLinha = 9;
 constexpr int LarguraValor = 6;  // the value's digits; its "." and a blank follow
+constexpr int LarguraCampo = 8;  // columns of one value in a data line
 constexpr int LarguraLinha = 80;
 constexpr int ColunaAno = 77;
 
@@ -46,14 +47,13 @@ double pPercentual(const Posto& posto, int ano, int semana, int numSemanas) {
 bool pLeHistorico(ArquivoEntrada& entrada, const Posto& posto, Progresso& progresso, Historico& vazoes,
                   QString& detalhe) {
     const int numSemanas = posto.getNumSemanas();
-    // 16-bit arithmetic, as the year count always overflowed beyond 32767
+    // The year count is 16-bit arithmetic: it overflows beyond 32767.
     const int anos = CInt(static_cast<double>(posto.AnoFinal) - posto.AnoInicial + 1);
     if (anos < 0) {
         throw plataforma::ErroVB::padrao(plataforma::ErroSubscrito);
     }
     vazoes.ReDim(anos, numSemanas);
     int contador = 2;
-    QString campo;
     for (int ano = posto.AnoInicial; ano <= posto.AnoFinal; ++ano) {
         const bool ultimoAno = ano == posto.AnoFinal;
         for (int j = 1; j <= LinhasPorAno; ++j) {
@@ -69,14 +69,14 @@ bool pLeHistorico(ArquivoEntrada& entrada, const Posto& posto, Progresso& progre
             }
             const int valores = pValoresNaLinha(j, numSemanas);
             for (int k = 1; k <= valores; ++k) {
-                if (ultimoAno && linha.size() < 8 * k) {
+                if (ultimoAno && linha.size() < LarguraCampo * k) {
                     return true;
                 }
                 const int semana = (j - 1) * ValoresPorLinha + k;
                 progresso.setValue(pPercentual(posto, ano, semana, numSemanas));
                 // The zeros around the field make a blank field and a bare "." read as 0.
-                campo = u'0' + Trim(Mid(linha, (k - 1) * 8 + 2, 7)) + u'0';
-                vazoes(ano - posto.AnoInicial + 1, semana) = CSng(Val(campo));
+                const QString campo = Mid(linha, (k - 1) * LarguraCampo + 2, LarguraCampo - 1);
+                vazoes(ano - posto.AnoInicial + 1, semana) = CSng(Val(u'0' + Trim(campo) + u'0'));
             }
         }
     }
@@ -96,7 +96,6 @@ bool PostoARQ::importaVazoesSemanais(const QString& arquivo, QString& erros, Pro
     if (!halvo::UtilitariosArquivo().ArquivoExiste(arquivo)) {
         return false;
     }
-    Historico vazoes;
     try {
         ArquivoEntrada entrada(arquivo);
         progresso.setValue(0);
@@ -123,6 +122,7 @@ bool PostoARQ::importaVazoesSemanais(const QString& arquivo, QString& erros, Pro
             return true;
         }
 
+        Historico vazoes;
         QString detalhe;
         if (!pLeHistorico(entrada, posto, progresso, vazoes, detalhe)) {
             pAdicionaErro(erros, Mensagens::msgVazoesSemanais + detalhe);

@@ -1,5 +1,6 @@
 #include "corvalin/options/Opcoes.h"
 #include "platform/recordstore/Recordstore.h"
+#include "platform/runtime/ErroVB.h"
 #include "tests/corvalin/modelfiles/CasoModelo.h"
 
 #include <QDir>
@@ -76,6 +77,21 @@ TEST_F(VazoesSemanaisTeste, GeraOsArquivosDouradosComAcentosE53Semanas) {
     EXPECT_EQ(bytes.mid(69, 23), QByteArray("\r\n 1995 1997171000.5.\r\n"));
     EXPECT_EQ(bytes.mid(92, 10), QByteArray(" 100000.  "));
     EXPECT_EQ(bytes.mid(92 + 76, 6), QByteArray("1995\r\n"));
+}
+
+TEST_F(VazoesSemanaisTeste, TextoMaiorQueSeuCampoFalhaNaEscrita) {
+    Posto posto = teste::SaoSimao();
+    posto.Nome = QString(60, u'N');
+    grava(posto, teste::HistoricoSaoSimao());
+    ASSERT_TRUE(arq.geraVazoesSemanais(pastaExecucao(), posto, postoBD, progresso));
+    EXPECT_EQ(conteudo(caminhoGerado(posto)).indexOf("\r\n"), 69) << "sixty characters take no padding";
+
+    posto.Nome += u'N';
+    EXPECT_THROW(arq.geraVazoesSemanais(pastaExecucao(), posto, postoBD, progresso), plataforma::ErroVB);
+    Historico vazoes = teste::HistoricoSaoSimao();
+    vazoes(2, 3) = 1234567;
+    grava(teste::SaoSimao(), vazoes);
+    EXPECT_THROW(arq.geraVazoesSemanais(pastaExecucao(), teste::SaoSimao(), postoBD, progresso), plataforma::ErroVB);
 }
 
 TEST_F(VazoesSemanaisTeste, LeOArquivoDouradoEmOutroCaso) {
