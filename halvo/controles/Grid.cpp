@@ -61,7 +61,6 @@ Grid::Grid(QWidget* pai) : QWidget(pai), mModelo(new ModeloGrid(this)), mTabela(
     mTabela->setSelectionMode(QAbstractItemView::SingleSelection);
     mTabela->setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                              QAbstractItemView::EditKeyPressed);
-    mTabela->setCornerButtonEnabled(false);
     mTabela->horizontalHeader()->setSectionsClickable(false);
     mTabela->verticalHeader()->setSectionsClickable(false);
     mTabela->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);

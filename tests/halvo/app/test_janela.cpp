@@ -229,6 +229,13 @@ void TesteJanela::menusDasTelasSoComCasoAberto() {
     QVERIFY(!acao("acaoTela_1_3").isEnabled());
     QCOMPARE(mJanela->Area().subWindowList().size(), 1);
     QCOMPARE(mJanela->windowTitle(), QStringLiteral("Halvo"));
+
+    acao("acaoSobre").trigger();
+    QCOMPARE(mDialogo.Mensagens().size(), 1u);
+    QCOMPARE(mDialogo.Mensagens()[0].titulo, QStringLiteral("Sobre o Halvo"));
+    for (const char* parte : {"Falso", "Modelo de teste", "1.0", "3.0.0.1"}) {
+        QVERIFY(mDialogo.Mensagens()[0].texto.contains(QString::fromUtf8(parte)));
+    }
 }
 
 void TesteJanela::somenteLeituraChegaAoCasoEFicaGravado() {
