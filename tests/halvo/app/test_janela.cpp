@@ -1,4 +1,3 @@
-#include "halvo/app/DialogoNovoCaso.h"
 #include "halvo/app/JanelaPrincipal.h"
 #include "halvo/app/ListaDeCasos.h"
 #include "halvo/app/PainelCasos.h"
@@ -10,10 +9,8 @@
 #include "tests/doubles/DialogoRoteirizado.h"
 
 #include <QAction>
-#include <QComboBox>
 #include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -22,7 +19,6 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 
 #include <map>
 
@@ -43,7 +39,6 @@ public:
     std::shared_ptr<halvo::caso> caso;
     std::shared_ptr<halvo::Notificador> notificador;
     std::vector<Abertura> aberturas;
-    QStringList criados;
     QStringList apagados;
     int fechamentos = 0;
 
@@ -59,10 +54,7 @@ public:
         notificador = std::move(n);
         return 1;
     }
-    std::int16_t CriarCaso(const QString& pasta) override {
-        criados << pasta;
-        return QDir().mkpath(pasta) ? 1 : 0;
-    }
+    std::int16_t CriarCaso(const QString&) override { return 0; }
     std::int16_t CopiarCaso(QString&, QString&) override { return 0; }
     std::int16_t FecharCaso() override {
         ++fechamentos;
@@ -108,7 +100,7 @@ private slots:
     void menusDasTelasSoComCasoAberto();
     void somenteLeituraChegaAoCasoEFicaGravado();
     void eventosNaBarraDeEstado();
-    void novoCasoListadoEApagadoComSuasTelas();
+    void apagarLevaAsTelasDoCaso();
 
 private:
     QAction& acao(const char* nome) const;
@@ -274,36 +266,12 @@ void TesteJanela::eventosNaBarraDeEstado() {
     }
 }
 
-void TesteJanela::novoCasoListadoEApagadoComSuasTelas() {
-    const QString pasta = QDir::toNativeSeparators(mPasta->filePath(QStringLiteral("Estudo B/Novo")));
-    QTimer::singleShot(0, this, [&] {
-        auto* dialogo = qobject_cast<halvo::DialogoNovoCaso*>(QApplication::activeModalWidget());
-        QVERIFY(dialogo != nullptr);
-        dialogo->findChild<QComboBox*>(QStringLiteral("CboEstudo"))
-            ->setCurrentText(QStringLiteral("Estudo B"));
-        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtNome"))->setText(QStringLiteral("Novo"));
-        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtDescricao"))
-            ->setText(QStringLiteral("Cheia de 1983"));
-        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtPasta"))->setText(pasta);
-        dialogo->accept();
-    });
-    acao("acaoNovo").trigger();
-    QCOMPARE(mModelo.criados, QStringList{pasta});
-
-    halvo::ListaDeCasos relida;
-    QVERIFY(relida.Carrega());
-    const halvo::EntradaCaso* novo = relida.ProcuraPasta(pasta);
-    QVERIFY(novo != nullptr);
-    QCOMPARE(novo->Codigo, 3);
-    QCOMPARE(novo->Estudo, QStringLiteral("Estudo B"));
-    QCOMPARE(novo->Descricao, QStringLiteral("Cheia de 1983"));
-    QVERIFY(novo->Criacao.isValid());
-
-    // A screen of the case goes with it; a screen of another case stays.
+// A screen of the deleted case goes with it; a screen of another case stays.
+void TesteJanela::apagarLevaAsTelasDoCaso() {
+    const QString pasta = QDir::toNativeSeparators(mPasta->filePath(QStringLiteral("Estudo A/Caso 2")));
     abre(1);
     acao("acaoTela_3_1").trigger();
-    abre(3);
-    QCOMPARE(mModelo.caso->Item(QStringLiteral("Descricao")), QStringLiteral("Cheia de 1983"));
+    abre(2);
     acao("acaoTela_1_1").trigger();
     QCOMPARE(mJanela->Area().subWindowList().size(), 2);
 
@@ -315,13 +283,13 @@ void TesteJanela::novoCasoListadoEApagadoComSuasTelas() {
     QCOMPARE(mDialogo.Mensagens().size(), 2u);
     QCOMPARE(mDialogo.Mensagens()[1].titulo, QStringLiteral("Confirmação"));
     QCOMPARE(mModelo.apagados, QStringList{pasta});
-    QVERIFY(!QDir(pasta).exists());
     QCOMPARE(mJanela->Area().subWindowList().size(), 1);
     QCOMPARE(mJanela->Area().subWindowList()[0]->windowTitle(), QStringLiteral("Execução (Caso 1)"));
     QVERIFY(!mJanela->Gerente().Aberto().has_value());
+    halvo::ListaDeCasos relida;
     QVERIFY(relida.Carrega());
+    QCOMPARE(relida.Casos().size(), 1u);
     QVERIFY(relida.ProcuraPasta(pasta) == nullptr);
-    QCOMPARE(relida.Casos().size(), 2u);
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include "halvo/app/CasoPasta.h"
 #include "halvo/app/ListaDeCasos.h"
 
 #include <QDir>
@@ -53,21 +52,6 @@ TEST(ListaDeCasos, GravadaERelidaSemReusarCodigos) {
     estragado.close();
     EXPECT_FALSE(relida.Carrega());
     EXPECT_TRUE(relida.Casos().empty());
-}
-
-TEST(CasoPasta, ItensDeUmCasoListado) {
-    halvo::EntradaCaso e =
-        entrada(QStringLiteral("Rio Grande"), QStringLiteral("Furnas"), QStringLiteral("/casos/furnas"));
-    e.Codigo = 12;
-    e.SomenteLeitura = true;
-    const halvo::CasoPasta caso(e);
-    EXPECT_TRUE(caso.SomenteLeitura());
-    EXPECT_EQ(caso.Item(QStringLiteral("codigo")), QStringLiteral("12"));
-    EXPECT_EQ(caso.Item(QStringLiteral("Codigo")), QStringLiteral("12"));
-    EXPECT_EQ(caso.Item(QStringLiteral("Descricao")), QStringLiteral("Cheia de 1983"));
-    EXPECT_EQ(caso.Item(QStringLiteral("DataCriacao")), QStringLiteral("2026-03-01"));
-    EXPECT_EQ(caso.Item(QStringLiteral("HoraCriacao")), QStringLiteral("14:05:00"));
-    EXPECT_EQ(caso.Item(QStringLiteral("diretorio")), QStringLiteral("/casos/furnas") + QDir::separator());
 }
 
 TEST(Janela, SemTelaFalhaNumaLinha) {

@@ -2,13 +2,10 @@
 #include "halvo/app/UtilitariosSistemaGui.h"
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMessageBox>
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
@@ -23,7 +20,6 @@ private slots:
     void ponteiroEUmValorSo();
     void telaFilhaSaiComASubjanela();
     void janelaAuxiliarFicaSobreAPrincipal();
-    void programaRodaComPonteiroOcupado();
 };
 
 void TesteServicosGui::textoEFiltros() {
@@ -69,11 +65,6 @@ void TesteServicosGui::caixaDeMensagem() {
                               halvo::Icone::Pergunta, halvo::Botoes::SimNaoCancelar),
              halvo::Resposta::Sim);
     QCOMPARE(vista.titulo, QStringLiteral("Confirmação"));
-
-    respondeComTecla(vista, Qt::Key_Escape);
-    QCOMPARE(dialogo.Mensagem(QStringLiteral("Gravar?"), QStringLiteral("Confirmação"),
-                              halvo::Icone::Pergunta, halvo::Botoes::SimNaoCancelar),
-             halvo::Resposta::Cancelar);
 
     respondeComTecla(vista, Qt::Key_Escape);
     QCOMPARE(dialogo.Mensagem(QStringLiteral("Falhou."), QStringLiteral("Erro"), halvo::Icone::Erro,
@@ -134,21 +125,6 @@ void TesteServicosGui::janelaAuxiliarFicaSobreAPrincipal() {
     QVERIFY(progresso.isWindow());
     QCOMPARE(progresso.windowType(), Qt::Tool);
     QVERIFY(progresso.isVisible());
-}
-
-void TesteServicosGui::programaRodaComPonteiroOcupado() {
-    QTemporaryDir pasta;
-    const QString marca = pasta.filePath(QStringLiteral("marca"));
-    const QString roteiro = pasta.filePath(QStringLiteral("Executa.bat"));
-    QFile arquivo(roteiro);
-    QVERIFY(arquivo.open(QIODevice::WriteOnly));
-    arquivo.write(QStringLiteral("echo ok > \"%1\"\n").arg(marca).toLocal8Bit());
-    arquivo.close();
-
-    halvo::UtilitariosSistemaGui sistema;
-    sistema.ExecutaPrograma(roteiro, 1, {}, 0, true);
-    QVERIFY(QFile::exists(marca));
-    QVERIFY(QApplication::overrideCursor() == nullptr);
 }
 
 }  // namespace

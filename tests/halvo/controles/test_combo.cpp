@@ -166,7 +166,6 @@ void TesteCombo::somenteListaETamanhoMaximo() {
     QCOMPARE(mCombo->Texto().size(), 10);
 
     mCombo->setSomenteLista(true);
-    QVERIFY(mCombo->SomenteLista());
     QVERIFY(mCombo->lineEdit() == nullptr);
     QCOMPARE(mCombo->Texto(), QString());
     // A name that the list did not hold yet is looked for again.
