@@ -1,0 +1,172 @@
+#include "corvalin/frame/TelaPostos.h"
+
+#include "corvalin/casedb/casoBD.h"
+#include "corvalin/frame/Mensagens.h"
+#include "corvalin/stations/Posto.h"
+#include "corvalin/stations/PostoBD.h"
+#include "halvo/controles/Combo.h"
+#include "platform/texto/Texto.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyle>
+
+namespace corvalin {
+
+namespace {
+
+constexpr int TamanhoMaximoNome = 60;
+
+// The four steps in the order of their buttons, and the icons that show them.
+constexpr std::array<ModoBusca, 4> ModosNavegacao{BuscaPrimeiro, BuscaAnterior, BuscaProximo, BuscaUltimo};
+constexpr std::array<QStyle::StandardPixmap, 4> IconesNavegacao{QStyle::SP_MediaSkipBackward, QStyle::SP_ArrowLeft,
+                                                                QStyle::SP_ArrowRight, QStyle::SP_MediaSkipForward};
+
+QPushButton* pBotao(QWidget& pai, const QString& nome, const QString& texto) {
+    auto* botao = new QPushButton(texto, &pai);
+    botao->setObjectName(nome);
+    return botao;
+}
+
+}  // namespace
+
+const QString TelaPostos::IndiceNome = QStringLiteral("NomeDoAproveitamento");
+
+TelaPostos::TelaPostos(const QString& nome, const QString& palavra, const QString& titulo, Gravacao gravacao,
+                       QWidget* pai)
+    : Tela(nome, titulo, pai),
+      mPalavra(palavra),
+      mLblCodigo(new QLabel(QStringLiteral("Código do Posto"), this)),
+      mTxtCodigo(new QLineEdit(this)),
+      mLblNome(new QLabel(QStringLiteral("Nome do Aproveitamento"), this)),
+      mCBD(new halvo::Combo(this)) {
+    mLblCodigo->setObjectName(QStringLiteral("Lbl%1Codigo").arg(palavra));
+    mTxtCodigo->setObjectName(QStringLiteral("Txt%1Codigo").arg(palavra));
+    mLblNome->setObjectName(QStringLiteral("Lbl%1Nome").arg(palavra));
+    mCBD->setObjectName(QStringLiteral("CBD%1").arg(palavra));
+    mLblCodigo->setBuddy(mTxtCodigo);
+    mLblNome->setBuddy(mCBD);
+    mTxtCodigo->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 12);
+    if (gravacao == Gravacao::Com) {
+        mBotGravar = pBotao(*this, QStringLiteral("Bot%1Gravar").arg(palavra), QStringLiteral("&Gravar"));
+        pRegistraGravacao(*mBotGravar);
+    }
+    connect(mCBD, &halvo::Combo::Selecionado, this, &TelaPostos::pEscolhido);
+    connect(mCBD, &halvo::Combo::Alterado, this, [this](const QString& texto) { mNomeNaTela = texto; });
+}
+
+void TelaPostos::pMontaTela(QWidget& corpo, std::initializer_list<QPushButton*> botoesProprios) {
+    auto* cabecalho = new QHBoxLayout;
+    cabecalho->addWidget(mLblCodigo);
+    cabecalho->addWidget(mTxtCodigo);
+    cabecalho->addSpacing(fontMetrics().averageCharWidth() * 2);
+    cabecalho->addWidget(mLblNome);
+    cabecalho->addWidget(mCBD, 1);
+
+    // Made after the screen's own part, so that Tab reaches them last.
+    auto* rodape = new QHBoxLayout;
+    for (std::size_t i = 0; i < mNavegacao.size(); ++i) {
+        QPushButton* botao = pBotao(*this, QStringLiteral("Bot%1Navegacao_%2").arg(mPalavra).arg(i), {});
+        botao->setIcon(style()->standardIcon(IconesNavegacao[i]));
+        connect(botao, &QPushButton::clicked, this, [this, i] { pNavegacao(static_cast<int>(i)); });
+        rodape->addWidget(botao);
+        mNavegacao[i] = botao;
+    }
+    rodape->addStretch(1);
+    mBotSair = pBotao(*this, QStringLiteral("Bot%1Sair").arg(mPalavra), QStringLiteral("&") + Mensagens::msgFechar);
+    connect(mBotSair, &QPushButton::clicked, this, &QWidget::close);
+
+    QWidget* anterior = mNavegacao.back();
+    auto pFimDaFila = [&](QPushButton* botao) {
+        rodape->addWidget(botao);
+        QWidget::setTabOrder(anterior, botao);
+        anterior = botao;
+    };
+    for (QPushButton* botao : botoesProprios) {
+        pFimDaFila(botao);
+    }
+    if (mBotGravar != nullptr) {
+        connect(mBotGravar, &QPushButton::clicked, this, [this] {
+            pArmadilha(QStringLiteral("Bot%1Gravar_Click").arg(mPalavra), [this] { pGravarClicado(); });
+        });
+        pFimDaFila(mBotGravar);
+    }
+    pFimDaFila(mBotSair);
+
+    auto* tela = new QVBoxLayout(this);
+    tela->addLayout(cabecalho);
+    tela->addWidget(&corpo, 1);
+    tela->addLayout(rodape);
+}
+
+void TelaPostos::pCarregar() {
+    mCBD->setTabela(getCasoBD().TabPostos());
+    mCBD->setCampo(IndiceNome);
+    mCBD->setIndice(IndiceNome);
+    mCBD->setTamanhoMaximo(TamanhoMaximoNome);
+    mCBD->setSomenteLista(pSomenteLista());
+    pPrepararControles();
+    pMostrarPrimeiro();
+}
+
+void TelaPostos::pMostrarPrimeiro() {
+    Posto posto;
+    const bool achou = postoBD().getPosto(posto, BuscaPrimeiro, 0, IndiceNome);
+    pExibir(achou, posto);
+}
+
+std::int32_t TelaPostos::pCodigoNaTela() const {
+    const QString codigo = mTxtCodigo->text();
+    return texto::IsNumeric(codigo) ? texto::CLng(texto::Val(codigo)) : 0;
+}
+
+void TelaPostos::pExibir(bool achou, const Posto& posto) {
+    if (achou) {
+        mTxtCodigo->setText(QString::number(posto.Codigo));
+        mNomeNaTela = posto.Nome;
+        mCBD->setTexto(posto.Nome);
+        pMostrar(posto);
+    } else {
+        mTxtCodigo->clear();
+        mNomeNaTela.clear();
+        mCBD->setTexto({});
+        pLimpar();
+    }
+}
+
+void TelaPostos::pNavegacao(int indice) {
+    pArmadilha(QStringLiteral("Bot%1Navegacao_Click").arg(mPalavra), [&] {
+        if (!pConfirma()) {
+            return;
+        }
+        const ModoBusca modo = ModosNavegacao[static_cast<std::size_t>(indice)];
+        const std::int32_t codigo = pCodigoNaTela();
+        Posto posto;
+        const bool achou = postoBD().getPosto(posto, modo,
+                                              modo == BuscaAnterior || modo == BuscaProximo ? codigo : 0, IndiceNome);
+        pExibir(achou, posto);
+        if (achou) {
+            pNavegou(posto);
+        }
+    });
+}
+
+void TelaPostos::pEscolhido(recordstore::Bookmark marcador) {
+    pArmadilha(QStringLiteral("CBD%1_Click").arg(mPalavra), [&] {
+        if (!pConfirma()) {
+            mCBD->setTexto(mNomeNaTela);
+            return;
+        }
+        getCasoBD().TabPostos().setBookmark(marcador);
+        Posto posto;
+        const bool achou = postoBD().getPosto(posto, BuscaAtual, 0, IndiceNome);
+        pExibir(achou, posto);
+        if (achou) {
+            pNavegou(posto);
+        }
+    });
+}
+
+}  // namespace corvalin
