@@ -14,6 +14,10 @@ constexpr int LinhasDaGrade = 4;
 constexpr int ColunasDaGrade = 7;
 constexpr int CentroNoTopo = 3;
 
+// One decimal of the number a 32-bit value reads as (its seven digits), not of its binary
+// expansion: 123.45 shows as 123,5 although the float holds 123.4499969.
+QString pFormata(float valor) { return texto::FormatNumber(texto::Val(texto::Str(valor)), 1); }
+
 }  // namespace
 
 FrmPrevisoes::FrmPrevisoes(QWidget* pai)
@@ -55,9 +59,9 @@ void FrmPrevisoes::pPreencherGrade(const Posto& posto) {
     }
     for (int i = 1; i <= previsao.UBound(); ++i) {
         mGrade->setTextoMatriz(0, i, Mensagens::msgSem + QLatin1Char(' ') + texto::Trim(texto::Str(semana)));
-        mGrade->setTextoMatriz(1, i, texto::FormatNumber(previsao[i], 1));
-        mGrade->setTextoMatriz(2, i, texto::FormatNumber(limiteInferior[i], 1));
-        mGrade->setTextoMatriz(3, i, texto::FormatNumber(limiteSuperior[i], 1));
+        mGrade->setTextoMatriz(1, i, pFormata(previsao[i]));
+        mGrade->setTextoMatriz(2, i, pFormata(limiteInferior[i]));
+        mGrade->setTextoMatriz(3, i, pFormata(limiteSuperior[i]));
         semana = semana % semanas + 1;
     }
 }

@@ -1,0 +1,148 @@
+// The forecast chart: its week labels count back from the first forecast week, four weeks with a
+// Vazpast file and six without, and its lines join at the last verified week.
+
+#include "corvalin/results/FrmGrafico.h"
+#include "tests/corvalin/frame/CasoDeTelas.h"
+
+#include <QBarCategoryAxis>
+#include <QChart>
+#include <QChartView>
+#include <QLegend>
+#include <QLineEdit>
+#include <QLineSeries>
+#include <QPushButton>
+#include <QValueAxis>
+#include <QtTest>
+
+using teste::controle;
+
+namespace {
+
+QStringList rotulos(std::initializer_list<int> semanas) {
+    QStringList textos;
+    for (const int semana : semanas) {
+        textos << QString::number(semana);
+    }
+    return textos;
+}
+
+QChart& grafico(const QWidget& tela) { return *controle<QChartView>(tela, QStringLiteral("GrfGrafico")).chart(); }
+
+QStringList rotulosDoGrafico(const QWidget& tela) {
+    const auto eixos = grafico(tela).axes(Qt::Horizontal);
+    return eixos.isEmpty() ? QStringList() : qobject_cast<QBarCategoryAxis*>(eixos.front())->categories();
+}
+
+QList<QPointF> pontos(const QWidget& tela, const QString& serie) {
+    for (QAbstractSeries* s : grafico(tela).series()) {
+        if (s->name() == serie) {
+            return qobject_cast<QLineSeries*>(s)->points();
+        }
+    }
+    return {};
+}
+
+void proximo(const QWidget& tela) { controle<QPushButton>(tela, QStringLiteral("BotGraficoNavegacao_2")).click(); }
+
+}  // namespace
+
+class TesteFrmGrafico : public QObject {
+    Q_OBJECT
+
+private slots:
+    // The chart's look, set once: the legend at the bottom, the two axis titles, the backdrop
+    // from grey to white.
+    void aparencia() {
+        teste::CasoDeTelas caso;
+        auto tela = teste::carrega<corvalin::FrmGrafico>(caso);
+        QChart& g = grafico(*tela);
+        QCOMPARE(g.legend()->alignment(), Qt::AlignBottom);
+        QVERIFY(g.legend()->isVisible());
+        QCOMPARE(g.axes(Qt::Vertical).front()->titleText(), QStringLiteral("Vazão"));
+        QCOMPARE(g.axes(Qt::Horizontal).front()->titleText(), QStringLiteral("Semana"));
+        const QGradient* fundo = g.backgroundBrush().gradient();
+        QVERIFY(fundo != nullptr);
+        QCOMPARE(fundo->stops().front().second, QColor(210, 210, 206));
+        QCOMPARE(fundo->stops().back().second, QColor(255, 255, 255));
+        QVERIFY(g.series().isEmpty());
+    }
+
+    void semanasEValores() {
+        teste::CasoDeTelas caso;
+        // A: forecast from week 3 of 2009, six weeks of history before it.
+        corvalin::Posto a = caso.adiciona(1, QStringLiteral("A"), 3, 2009);
+        caso.historico(a, 1980, 2009, 10);
+        caso.previsao(1, {100, 101, 102, 103, 104, 105});
+        // B: the same week with a Vazpast file, whose four values come in reverse.
+        corvalin::Posto b = caso.posto(2, QStringLiteral("B"), 3, 2009);
+        b.FlafVazpast = true;
+        b.NomeArqVazpast = QStringLiteral("vazpast.txt");
+        b.VazpastSemana_1 = 11;
+        b.VazpastSemana_2 = 12;
+        b.VazpastSemana_3 = 13;
+        b.VazpastSemana_4 = 14;
+        caso.grava(b);
+        caso.previsao(2, {20, 21, 22, 23, 24, 25});
+        // C: from week 6, so the first label falls below week 1.
+        corvalin::Posto c = caso.adiciona(3, QStringLiteral("C"), 6, 2009);
+        caso.historico(c, 1980, 2009, 10);
+        caso.previsao(3, {1, 2, 3, 4, 5, 6});
+
+        auto tela = teste::carrega<corvalin::FrmGrafico>(caso);
+        QCOMPARE(rotulosDoGrafico(*tela), rotulos({49, 50, 51, 52, 1, 2, 3, 4, 5, 6, 7, 8}));
+        const QList<QPointF> verificadas = pontos(*tela, QStringLiteral("Vazões Verificadas"));
+        QCOMPARE(verificadas.size(), 6);
+        QCOMPARE(verificadas.front(), QPointF(0, 2008 * 0.01F + 49));
+        QCOMPARE(verificadas.back(), QPointF(5, 2009 * 0.01F + 2));
+        const QList<QPointF> previstas = pontos(*tela, QStringLiteral("Vazões Previstas"));
+        QCOMPARE(previstas.size(), 7);
+        QCOMPARE(previstas.front(), verificadas.back());
+        QCOMPARE(previstas.at(1), QPointF(6, 100));
+        QCOMPARE(previstas.back(), QPointF(11, 105));
+        QCOMPARE(pontos(*tela, QStringLiteral("Limite Inferior")).front(), verificadas.back());
+        QCOMPARE(pontos(*tela, QStringLiteral("Limite Superior")).back(), QPointF(11, 105 * 1.1F));
+
+        proximo(*tela);
+        QCOMPARE(rotulosDoGrafico(*tela), rotulos({51, 52, 1, 2, 3, 4, 5, 6, 7, 8}));
+        QCOMPARE(pontos(*tela, QStringLiteral("Vazões Verificadas")),
+                 (QList<QPointF>{{0, 14}, {1, 13}, {2, 12}, {3, 11}}));
+        QCOMPARE(pontos(*tela, QStringLiteral("Vazões Previstas")).front(), QPointF(3, 11));
+
+        proximo(*tela);
+        QCOMPARE(rotulosDoGrafico(*tela).mid(0, 7), rotulos({52, 1, 2, 3, 4, 5, 6}));
+        QCOMPARE(grafico(*tela).series().size(), 4);
+        QVERIFY(caso.host.dialogo.Mensagens().empty());
+    }
+
+    // Without the weeks before the forecast: the message and an empty chart; without a forecast:
+    // an empty chart and no message.
+    void graficoVazio() {
+        teste::CasoDeTelas caso;
+        corvalin::Posto a = caso.adiciona(1, QStringLiteral("A"), 3, 2009);
+        caso.historico(a, 1980, 2009, 10);
+        caso.previsao(1, {1, 2, 3, 4, 5, 6});
+        corvalin::Posto b = caso.adiciona(2, QStringLiteral("B"), 3, 2011);
+        caso.historico(b, 1980, 2009, 10);
+        caso.previsao(2, {1, 2, 3, 4, 5, 6});
+        corvalin::Posto c = caso.adiciona(3, QStringLiteral("C"), 3, 2009);
+        caso.historico(c, 1980, 2009, 10);
+
+        auto tela = teste::carrega<corvalin::FrmGrafico>(caso);
+        QCOMPARE(grafico(*tela).series().size(), 4);
+        proximo(*tela);
+        const auto& mensagens = caso.host.dialogo.Mensagens();
+        QCOMPARE(mensagens.size(), std::size_t{1});
+        QCOMPARE(mensagens.front().texto, QStringLiteral("Não existem as Vazões Anteriores pedidas!"));
+        QVERIFY(mensagens.front().titulo.isEmpty());
+        QVERIFY(grafico(*tela).series().isEmpty());
+        QVERIFY(rotulosDoGrafico(*tela).isEmpty());
+
+        proximo(*tela);
+        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtGraficoCodigo")).text(), QStringLiteral("3"));
+        QCOMPARE(mensagens.size(), std::size_t{1});
+        QVERIFY(grafico(*tela).series().isEmpty());
+    }
+};
+
+QTEST_MAIN(TesteFrmGrafico)
+#include "test_frmgrafico.moc"
