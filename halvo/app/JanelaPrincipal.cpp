@@ -51,10 +51,14 @@ JanelaPrincipal::JanelaPrincipal(IModelo& modelo, ListaDeCasos& lista, QWidget* 
     pCriaMenuJanela(*doca);
     pCriaMenuAjuda();
     connect(mPainel, &QTreeWidget::itemSelectionChanged, this, &JanelaPrincipal::pAtualiza);
-    connect(mPainel, &PainelCasos::Ativado, this, [this](std::int32_t codigo) {
-        mPainel->Seleciona(codigo);
-        pAbrir();
-    });
+    // Queued: opening rebuilds the tree, which must not happen inside its own click.
+    connect(
+        mPainel, &PainelCasos::Ativado, this,
+        [this](std::int32_t codigo) {
+            mPainel->Seleciona(codigo);
+            pAbrir();
+        },
+        Qt::QueuedConnection);
 
     resize(1100, 720);
     pMostraCasos();

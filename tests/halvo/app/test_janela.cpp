@@ -251,7 +251,10 @@ void TesteJanela::somenteLeituraChegaAoCasoEFicaGravado() {
 }
 
 void TesteJanela::eventosNaBarraDeEstado() {
-    abre(1);
+    auto* painel = mJanela->findChild<halvo::PainelCasos*>();
+    painel->Seleciona(1);
+    QTest::keyClick(painel, Qt::Key_Return);
+    QTRY_COMPARE(mJanela->Gerente().Aberto(), std::optional<std::int32_t>(1));
     acao("acaoExecutar").trigger();
     QCOMPARE(mJanela->statusBar()->currentMessage(), QStringLiteral("Execução concluída com sucesso."));
     const std::vector<std::pair<std::int32_t, QString>> eventos{
