@@ -1,0 +1,69 @@
+#pragma once
+
+#include "corvalin/casedb/casoBD.h"
+#include "corvalin/execution/AssistenteExecucao.h"
+#include "corvalin/execution/ListaPostos.h"
+#include "corvalin/execution/RegistroTexto.h"
+#include "corvalin/options/OpcoesBD.h"
+#include "corvalin/stations/Posto.h"
+#include "corvalin/stations/PostoBD.h"
+#include "halvo/sdk/NotificadorRegistro.h"
+#include "tests/doubles/HostTeste.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <ostream>
+
+// Readable texts in the failures of the tests.
+inline void PrintTo(const QString& texto, std::ostream* saida) { *saida << '"' << texto.toStdString() << '"'; }
+
+namespace teste {
+
+// A station ready to run: general data whose files are named after its code ("C10.arq"...), and
+// a history from 1981 of the given number of full years.
+corvalin::Posto PostoPronto(std::int32_t codigo, const QString& nome, int anos = 20);
+
+// An open case with its stores, the run's list and log, and a plug-in folder where the test
+// solver stands as the solver.
+class CasoExecucao : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // Stores a station: catalogue, general data and history.
+    void grava(const corvalin::Posto& posto);
+    // The run logic on this case, made at first use (the screen's opening does not load the list).
+    corvalin::AssistenteExecucao& assistente();
+
+    // The case folder, ending in the separator, and a station's folder in it, without.
+    QString pastaCaso() const;
+    QString pastaPosto(std::int32_t codigo) const;
+    QString arquivoPosto(std::int32_t codigo, const QString& nome) const;
+    // What the test solver does for a station, and what it noted of its runs.
+    void instrucoes(std::int32_t codigo, const QStringList& linhas) const;
+    QStringList execucoes() const;
+    // The texts of the log, in order.
+    QStringList textosDoRegistro() const;
+
+    HostTeste host;
+    std::shared_ptr<corvalin::casoBD> bd = std::make_shared<corvalin::casoBD>();
+    std::shared_ptr<CasoTeste> caso;
+    std::shared_ptr<halvo::NotificadorRegistro> notificador = std::make_shared<halvo::NotificadorRegistro>();
+    corvalin::PostoBD postoBD;
+    corvalin::OpcoesBD opcoesBD;
+    corvalin::ListaPostosMemoria lista;
+    corvalin::RegistroMemoria registro;
+    QString pastaPlugin;
+
+private:
+    std::unique_ptr<corvalin::AssistenteExecucao> mAssistente;
+};
+
+// Text files, for the tests' comparisons.
+QStringList LinhasDe(const QString& caminho);
+void Grava(const QString& caminho, const QStringList& linhas);
+
+}  // namespace teste

@@ -1,0 +1,258 @@
+#include "corvalin/execution/ExecucaoPostos.h"
+#include "corvalin/frame/Mensagens.h"
+#include "corvalin/options/Opcoes.h"
+#include "platform/runtime/Vetor.h"
+#include "tests/corvalin/execution/CasoExecucao.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gmock/gmock.h>
+
+namespace teste {
+namespace {
+
+using corvalin::Posto;
+using corvalin::RegistroTexto;
+using namespace corvalin::Mensagens;
+using ::testing::ElementsAre;
+
+const QString Sucesso = msgCasoExecutadoSucesso;
+const QString Falha = msgCasoExecutadoErro;
+const QString Branco = QStringLiteral(" ");
+
+// The instruction of a forecast with values that tell the weeks and the series apart.
+QString pPrevisao(int base) {
+    QStringList valores;
+    for (int serie = 0; serie < 3; ++serie) {
+        for (int semana = 1; semana <= 6; ++semana) {
+            valores << QString::number(base + serie * 100 + semana * 10 + 0.5);
+        }
+    }
+    return QStringLiteral("previsao ") + valores.join(u' ');
+}
+
+// Records, with each message, how many lines the log had when it came.
+class DialogoComRegistro : public DialogoRoteirizado {
+public:
+    explicit DialogoComRegistro(const corvalin::RegistroMemoria& registro) : mRegistro(registro) {}
+    halvo::Resposta Mensagem(const QString& texto, const QString& titulo, halvo::Icone icone,
+                             halvo::Botoes botoes) override {
+        LinhasAntes.push_back(mRegistro.Linhas().size());
+        return DialogoRoteirizado::Mensagem(texto, titulo, icone, botoes);
+    }
+    std::vector<std::size_t> LinhasAntes;
+
+private:
+    const corvalin::RegistroMemoria& mRegistro;
+};
+
+class Execucao : public CasoExecucao {
+protected:
+    void executa() {
+        assistente().pCarregarPostos();
+        assistente().pGerarArquivosDireto();
+        assistente().pExecutar();
+    }
+
+    std::vector<float> previsao(std::int32_t codigo, int serie) const {
+        plataforma::Vetor<float> valores[3];
+        postoBD.getVazoesPrevistas(codigo, valores[0], valores[1], valores[2]);
+        const auto& dados = valores[serie].dados();
+        return {dados.begin() + 1, dados.end()};
+    }
+
+    QStringList arquivosDe(std::int32_t codigo) const {
+        return QDir(pastaPosto(codigo)).entryList(QDir::Files, QDir::Name);
+    }
+
+    void opcoesComPastaPrevisoes(const QString& pasta) {
+        corvalin::Opcoes opcoes;
+        opcoesBD.getOpcoes(opcoes);
+        opcoes.setPastaPrevisoes(pasta);
+        opcoesBD.setOpcoes(opcoes);
+    }
+};
+
+TEST_F(Execucao, OneStationFromFolderToStoredForecast) {
+    grava(PostoPronto(10, QStringLiteral("Alfa")));
+    instrucoes(10, {pPrevisao(1000), QStringLiteral("relatorio texto"), QStringLiteral("planilha"),
+                    QStringLiteral("prevp"), QStringLiteral("runstate 0")});
+    // The error file stands right behind the plug-in's folder text, not inside the folder.
+    Grava(pastaPlugin + QStringLiteral("merro.tmp"), {QStringLiteral("x")});
+    QDir().mkpath(pastaPosto(10));
+    Grava(arquivoPosto(10, QStringLiteral("Caso.dat")), {QStringLiteral("ANTIGO.arq")});
+    assistente().pCarregarPostos();
+    assistente().pGerarArquivosDireto();
+    host.dialogo.limpa();
+
+    assistente().pExecutar();
+
+    EXPECT_THAT(execucoes(), ElementsAre(QStringLiteral("10 C10.arq dadosgerais=1 merro=1 previsao=0")));
+    EXPECT_THAT(host.sistema.Programas, ElementsAre(arquivoPosto(10, QStringLiteral("Executa.bat"))));
+    EXPECT_THAT(host.sistema.PastasCorrentes, ElementsAre(QDir::fromNativeSeparators(pastaPosto(10))));
+    EXPECT_THAT(arquivosDe(10), ElementsAre(QStringLiteral("C10.arq"), QStringLiteral("C10.bcx"),
+                                            QStringLiteral("C10.dat"), QStringLiteral("C10.exc"),
+                                            QStringLiteral("C10.prv"), QStringLiteral("C10.rel"),
+                                            QStringLiteral("Caso.dat"), QStringLiteral("RUNSTATE.DAT")));
+    EXPECT_THAT(LinhasDe(arquivoPosto(10, QStringLiteral("Caso.dat"))), ElementsAre(QStringLiteral("C10.arq")));
+    EXPECT_THAT(previsao(10, 0), ElementsAre(1010.5f, 1020.5f, 1030.5f, 1040.5f, 1050.5f, 1060.5f));
+    EXPECT_THAT(previsao(10, 2), ElementsAre(1210.5f, 1220.5f, 1230.5f, 1240.5f, 1250.5f, 1260.5f));
+
+    EXPECT_THAT(textosDoRegistro(), ElementsAre(QStringLiteral("Posto 10 - Alfa"), Sucesso, Branco));
+    const auto& linhas = registro.Linhas();
+    EXPECT_TRUE(linhas[0].estilo == RegistroTexto::Aviso && linhas[0].destaque && linhas[0].quebraLinha);
+    EXPECT_TRUE(linhas[1].estilo == RegistroTexto::Normal && !linhas[1].destaque && linhas[1].quebraLinha);
+    EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoSemErro));
+    EXPECT_EQ(assistente().getLblExecutar(), QStringLiteral("Execução do Caso:"));
+    EXPECT_THAT(host.dialogo.Ponteiros(), ElementsAre(halvo::Ponteiro::Ocupado, halvo::Ponteiro::Padrao));
+}
+
+TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationStillRuns) {
+    const QStringList nomes = {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C"), QStringLiteral("D"),
+                               QStringLiteral("E")};
+    for (int i = 0; i < nomes.size(); ++i) {
+        grava(PostoPronto((i + 1) * 10, nomes[i]));
+    }
+    instrucoes(10, {pPrevisao(100), QStringLiteral("runstate 0")});
+    instrucoes(20, {pPrevisao(200), QStringLiteral("aborta")});
+    instrucoes(30, {});
+    instrucoes(40, {pPrevisao(400), QStringLiteral("runstate 1")});
+    instrucoes(50, {QStringLiteral("runstate  0 ")});
+    // A former forecast of the silent station stays when it writes none.
+    plataforma::Vetor<float> antiga(6);
+    antiga[1] = 7;
+    postoBD.setVazoesPrevistas(30, antiga, antiga, antiga);
+
+    executa();
+
+    EXPECT_EQ(execucoes().size(), 5);
+    EXPECT_THAT(textosDoRegistro(),
+                ElementsAre(QStringLiteral("Posto 10 - A"), Sucesso, Branco, QStringLiteral("Posto 20 - B"), Falha,
+                            Branco, QStringLiteral("Posto 30 - C"), Falha, Branco, QStringLiteral("Posto 40 - D"),
+                            Falha, Branco, QStringLiteral("Posto 50 - E"), Sucesso, Branco));
+    EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoComErro));
+    // A failed station is harvested all the same.
+    EXPECT_FLOAT_EQ(previsao(20, 0).at(0), 210.5f);
+    EXPECT_FLOAT_EQ(previsao(30, 0).at(0), 7);
+    EXPECT_FLOAT_EQ(previsao(40, 1).at(5), 560.5f);
+}
+
+TEST_F(Execucao, TheVerdictIsTheFirstLineOfTheStateFileReadAsANumber) {
+    const QString pasta = host.caminho(QStringLiteral("estado"));
+    QDir().mkpath(pasta);
+    const QString arquivo = pasta + QStringLiteral("/RUNSTATE.DAT");
+    const auto veredito = [&](const QStringList& linhas) {
+        Grava(arquivo, linhas);
+        return corvalin::ExecucaoPostos::pExecutouSemErro(pasta);
+    };
+    EXPECT_TRUE(veredito({QStringLiteral("0")}));
+    EXPECT_TRUE(veredito({QStringLiteral(" 0 "), QStringLiteral("1")}));
+    EXPECT_TRUE(veredito({QString()}));
+    EXPECT_TRUE(veredito({}));
+    EXPECT_TRUE(veredito({QStringLiteral("terminou")}));
+    EXPECT_FALSE(veredito({QStringLiteral("1")}));
+    EXPECT_FALSE(veredito({QStringLiteral(" 0.5")}));
+    QFile::remove(arquivo);
+    EXPECT_FALSE(corvalin::ExecucaoPostos::pExecutouSemErro(pasta));
+}
+
+TEST_F(Execucao, TheSolversNoticeComesBeforeTheStationsLogLineAndIsDeleted) {
+    DialogoComRegistro dialogo(registro);
+    const halvo::InstalacaoServicos servicos(&dialogo, &host.sistema, &host.halvo);
+    grava(PostoPronto(10, QStringLiteral("Alfa")));
+    grava(PostoPronto(20, QStringLiteral("Beta")));
+    instrucoes(10, {QStringLiteral("aviso Previsão limitada."), QStringLiteral("runstate 0")});
+    instrucoes(20, {QStringLiteral("aviso"), QStringLiteral("runstate 0")});
+
+    executa();
+
+    ASSERT_EQ(dialogo.Mensagens().size(), 1u);
+    EXPECT_EQ(dialogo.Mensagens()[0].texto, QStringLiteral("Previsão limitada."));
+    EXPECT_EQ(dialogo.Mensagens()[0].titulo, msgTituloInformacao);
+    EXPECT_EQ(dialogo.Mensagens()[0].icone, halvo::Icone::Informacao);
+    EXPECT_THAT(dialogo.LinhasAntes, ElementsAre(0u));
+    EXPECT_FALSE(QFile::exists(arquivoPosto(10, QStringLiteral("Aviso.txt"))));
+    EXPECT_FALSE(QFile::exists(arquivoPosto(20, QStringLiteral("Aviso.txt"))));
+}
+
+TEST_F(Execucao, TheSharedForecastFolderFeedsAStationWithoutForecastAndTakesEveryForecastBack) {
+    const QString compartilhada = QDir::toNativeSeparators(host.caminho(QStringLiteral("previsoes")));
+    QDir().mkpath(compartilhada);
+    opcoesComPastaPrevisoes(compartilhada);
+    const QString compartilhado10 = compartilhada + QDir::separator() + QStringLiteral("C10.prv");
+    const QString compartilhado20 = compartilhada + QDir::separator() + QStringLiteral("C20.prv");
+    Grava(compartilhado10, {QStringLiteral("compartilhado 10")});
+    Grava(compartilhado20, {QStringLiteral("compartilhado 20")});
+    grava(PostoPronto(10, QStringLiteral("Alfa")));
+    grava(PostoPronto(20, QStringLiteral("Beta")));
+    QDir().mkpath(pastaPosto(20));
+    Grava(arquivoPosto(20, QStringLiteral("C20.prv")), {QStringLiteral("local 20")});
+    instrucoes(10, {QStringLiteral("runstate 0")});
+    instrucoes(20, {QStringLiteral("runstate 0")});
+
+    executa();
+
+    EXPECT_THAT(execucoes(), ElementsAre(QStringLiteral("10 C10.arq dadosgerais=1 merro=0 previsao=1"),
+                                         QStringLiteral("20 C20.arq dadosgerais=1 merro=0 previsao=1")));
+    EXPECT_THAT(LinhasDe(arquivoPosto(10, QStringLiteral("C10.prv"))), ElementsAre(QStringLiteral("compartilhado 10")));
+    EXPECT_THAT(LinhasDe(compartilhado20), ElementsAre(QStringLiteral("local 20")));
+}
+
+TEST_F(Execucao, TheStationsEraseFlagsAndTheRemovalOfAnEmptyFolder) {
+    Posto apaga = PostoPronto(10, QStringLiteral("Alfa"));
+    apaga.Arquivos.ArquivoRelatorio = QStringLiteral("REL.DAT.TXT");
+    apaga.Arquivos.ApagarArquivoDadosGerais = true;
+    apaga.Arquivos.ApagarArquivoVazoesSemanais = true;
+    apaga.Arquivos.ApagarArquivoRelatorio = true;
+    apaga.Arquivos.ApagarArquivoExcel = true;
+    grava(apaga);
+    Posto vazia = apaga;
+    vazia.Codigo = 20;
+    vazia.Nome = QStringLiteral("Beta");
+    vazia.Arquivos.ArquivoDadosGerais = QStringLiteral("C20.arq");
+    vazia.Arquivos.ArquivoVazoesSemanais = QStringLiteral("C20.dat");
+    grava(vazia);
+    instrucoes(10, {pPrevisao(1), QStringLiteral("relatorio r"), QStringLiteral("planilha"),
+                    QStringLiteral("runstate 0")});
+    // A solver that clears away its own control file leaves nothing behind.
+    instrucoes(20, {QStringLiteral("apaga Caso.dat")});
+
+    executa();
+
+    // The report's companion is named from its first dot.
+    EXPECT_THAT(arquivosDe(10), ElementsAre(QStringLiteral("C10.prv"), QStringLiteral("Caso.dat"),
+                                            QStringLiteral("RUNSTATE.DAT")));
+    EXPECT_FALSE(QDir(pastaPosto(20)).exists());
+    EXPECT_THAT(textosDoRegistro(), ElementsAre(QStringLiteral("Posto 10 - Alfa"), Sucesso, Branco,
+                                                QStringLiteral("Posto 20 - Beta"), Falha, Branco));
+}
+
+TEST_F(Execucao, TheHostsRunTakesEveryStationTwiceWithoutLimitsFiles) {
+    Posto alfa = PostoPronto(10, QStringLiteral("Alfa"));
+    alfa.Arquivos.ApagarArquivoDadosGerais = true;
+    alfa.FlagLimite = 1;
+    alfa.NomeArqLimite = QStringLiteral("C10.lim");
+    alfa.discretizacao = 2;
+    grava(alfa);
+    grava(PostoPronto(20, QStringLiteral("Beta")));
+    instrucoes(10, {QStringLiteral("runstate 0")});
+    instrucoes(20, {QStringLiteral("runstate 0")});
+
+    // The screen's opening loads the list, and the run loads it again behind.
+    assistente().pCarregarPostos();
+    assistente().ExecutarCorvalin();
+
+    EXPECT_EQ(lista.Quantidade(), 4);
+    // The first pass erases the general data file, so the second finds none.
+    EXPECT_THAT(execucoes(), ElementsAre(QStringLiteral("10 C10.arq dadosgerais=1 merro=0 previsao=0"),
+                                         QStringLiteral("20 C20.arq dadosgerais=1 merro=0 previsao=0"),
+                                         QStringLiteral("10 C10.arq dadosgerais=0 merro=0 previsao=0"),
+                                         QStringLiteral("20 C20.arq dadosgerais=1 merro=0 previsao=0")));
+    EXPECT_FALSE(QFile::exists(arquivoPosto(10, QStringLiteral("C10.lim"))));
+    EXPECT_EQ(textosDoRegistro().count(Sucesso), 4);
+    EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoSemErro));
+}
+
+}  // namespace
+}  // namespace teste
