@@ -89,6 +89,15 @@ void CasoExecucao::instrucoes(std::int32_t codigo, const QStringList& linhas) co
 
 QStringList CasoExecucao::execucoes() const { return LinhasDe(pastaCaso() + QStringLiteral("Execucoes.txt")); }
 
+int CasoExecucao::conta(const QString& tabela, std::int32_t codigo) const {
+    const auto rs = bd->BancoDeDados().OpenRecordset(tabela);
+    int n = 0;
+    for (; !rs->Eof(); rs->MoveNext()) {
+        n += rs->campo(QStringLiteral("CodigoDoPosto")).paraInteiro() == codigo ? 1 : 0;
+    }
+    return n;
+}
+
 QStringList CasoExecucao::textosDoRegistro() const {
     QStringList textos;
     for (const auto& linha : registro.Linhas()) {

@@ -45,6 +45,8 @@ protected:
     // What the test solver does for a station, and what it noted of its runs.
     void instrucoes(std::int32_t codigo, const QStringList& linhas) const;
     QStringList execucoes() const;
+    // Rows of a station in a table.
+    int conta(const QString& tabela, std::int32_t codigo) const;
     // The texts of the log, in order.
     QStringList textosDoRegistro() const;
 
