@@ -34,10 +34,14 @@ std::size_t pVizinha(int semana, int deslocamento, int numSemanas) {
     return static_cast<std::size_t>(((semana + deslocamento) % numSemanas + numSemanas) % numSemanas);
 }
 
+// Vectors and matrices of at most ordemMaxima rows, kept on the stack: a fit solves thousands.
+using VetorLags = Eigen::Matrix<double, Eigen::Dynamic, 1, 0, ordemMaxima, 1>;
+using MatrizLags = Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, 0, ordemMaxima, ordemMaxima>;
+
 struct Autorregressao {
     std::vector<double> phi;
     double desvioRuido = 1.0;
-    Eigen::MatrixXd inversaProdutos;  // (X'X)^-1 of the chosen lags, for the leverages
+    MatrizLags inversaProdutos;  // (X'X)^-1 of the chosen lags, for the leverages
 };
 
 // Least squares of z[t] on z[t-1..t-p] for the targets given, for every order up to the cap, and
@@ -62,7 +66,7 @@ Autorregressao pEscolheOrdem(const std::vector<double>& z, const std::vector<std
     Autorregressao melhor;
     double melhorCriterio = std::numeric_limits<double>::infinity();
     for (int p = 0; p <= maxima; ++p) {
-        Eigen::VectorXd b = Eigen::VectorXd::Zero(p);
+        VetorLags b = VetorLags::Zero(p);
         if (p > 0) {
             b = xx.topLeftCorner(p, p).ldlt().solve(xy.head(p));
         }
@@ -155,7 +159,7 @@ void ModeloPAR::pAjustaAutorregressoes(const std::vector<double>& z, std::size_t
         p.desvioRuido = std::max(ar.desvioRuido, desvioMinimo);
         for (const std::size_t t : daSemana) {
             double previsto = 0.0;
-            Eigen::VectorXd x(static_cast<Eigen::Index>(p.phi.size()));
+            VetorLags x(static_cast<Eigen::Index>(p.phi.size()));
             for (std::size_t k = 0; k < p.phi.size(); ++k) {
                 previsto += p.phi[k] * z[t - 1 - k];
                 x[static_cast<Eigen::Index>(k)] = z[t - 1 - k];

@@ -30,8 +30,6 @@ public:
                     const FaixasHorizonte* faixas = nullptr);
 
 private:
-    double pNucleoTriangular();
-
     const ModeloPAR& modelo_;
     std::mt19937_64 gerador_;
 };

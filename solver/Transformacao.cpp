@@ -45,11 +45,12 @@ double pBoxCox(double vazao, double lambda) {
     return std::abs(lambda) < lambdaLogaritmo ? std::log(vazao) : (std::pow(vazao, lambda) - 1.0) / lambda;
 }
 
-// Profile log-likelihood of a normal sample after the transformation, with its Jacobian.
-double pVerossimilhanca(std::span<const double> vazoes, double lambda, double somaLog) {
-    std::vector<double> y(vazoes.size());
-    for (std::size_t i = 0; i < vazoes.size(); ++i) {
-        y[i] = pBoxCox(vazoes[i], lambda);
+// Profile log-likelihood of a normal sample after the transformation, with its Jacobian. Takes
+// the logarithms of the flows, computed once for the whole search.
+double pVerossimilhanca(std::span<const double> logVazoes, double lambda, double somaLog) {
+    std::vector<double> y(logVazoes.size());
+    for (std::size_t i = 0; i < logVazoes.size(); ++i) {
+        y[i] = std::abs(lambda) < lambdaLogaritmo ? logVazoes[i] : std::expm1(lambda * logVazoes[i]) / lambda;
     }
     const double n = static_cast<double>(y.size());
     const double m = media(y);
@@ -93,9 +94,11 @@ double TransformacaoSemana::inverte(double y) const {
 }
 
 double estimaLambdaBoxCox(std::span<const double> vazoes) {
+    std::vector<double> logVazoes(vazoes.size());
     double somaLog = 0.0;
-    for (const double v : vazoes) {
-        somaLog += std::log(v);
+    for (std::size_t i = 0; i < vazoes.size(); ++i) {
+        logVazoes[i] = std::log(vazoes[i]);
+        somaLog += logVazoes[i];
     }
     // The likelihood is unimodal in lambda for practical samples: golden-section search.
     const double razao = (std::sqrt(5.0) - 1.0) / 2.0;
@@ -103,8 +106,8 @@ double estimaLambdaBoxCox(std::span<const double> vazoes) {
     double b = lambdaMaximo;
     double c = b - razao * (b - a);
     double d = a + razao * (b - a);
-    double fc = pVerossimilhanca(vazoes, c, somaLog);
-    double fd = pVerossimilhanca(vazoes, d, somaLog);
+    double fc = pVerossimilhanca(logVazoes, c, somaLog);
+    double fd = pVerossimilhanca(logVazoes, d, somaLog);
     // Hundredths of the exponent change the transformed flows far less than their sampling noise.
     constexpr double tolerancia = 1e-2;
     while (b - a > tolerancia) {
@@ -113,13 +116,13 @@ double estimaLambdaBoxCox(std::span<const double> vazoes) {
             d = c;
             fd = fc;
             c = b - razao * (b - a);
-            fc = pVerossimilhanca(vazoes, c, somaLog);
+            fc = pVerossimilhanca(logVazoes, c, somaLog);
         } else {
             a = c;
             c = d;
             fc = fd;
             d = a + razao * (b - a);
-            fd = pVerossimilhanca(vazoes, d, somaLog);
+            fd = pVerossimilhanca(logVazoes, d, somaLog);
         }
     }
     return 0.5 * (a + b);
