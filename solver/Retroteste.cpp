@@ -11,32 +11,40 @@ namespace solver {
 
 namespace {
 
-// The scoreboard of the forecasts that take, for each week ahead, the weight chosen for it.
-Placar pCompoe(const PlacaresPorPeso& porPeso, const std::array<std::size_t, horizonte>& escolhidos) {
-    Placar placar;
-    for (std::size_t h = 0; h < horizonte; ++h) {
-        placar.adotaSemana(h, porPeso[escolhidos[h]]);
+bool pVenceComClareza(const Desempenho& desafiante, const Desempenho& preferido) {
+    std::vector<double> diferencas;
+    for (std::size_t ano = 0; ano < preferido.indicePorAno.size(); ++ano) {
+        diferencas.push_back(desafiante.indicePorAno[ano] - preferido.indicePorAno[ano]);
     }
-    return placar;
+    const double erroPadrao = desvioPadrao(diferencas) /
+                              std::sqrt(static_cast<double>(std::max<std::size_t>(diferencas.size(), 1)));
+    return desafiante.indice + erroPadrao < preferido.indice;
+}
+
+Desempenho pDesempenho(const Placar& placar, const std::vector<Placar>& porAno, const Placar& climatologia) {
+    Desempenho d;
+    for (std::size_t h = 0; h < horizonte; ++h) {
+        d.semanasVencidas += placar.superaEmAmbas(h, climatologia) ? 1 : 0;
+    }
+    d.indice = placar.indice(climatologia);
+    for (const Placar& doAno : porAno) {
+        d.indicePorAno.push_back(doAno.indice(climatologia));
+    }
+    return d;
 }
 
 }  // namespace
 
-std::size_t escolhePeso(const PlacaresPorPeso& porPeso, const Placar& climatologia, std::size_t h) {
-    const auto pior = [&](std::size_t a, std::size_t b) {
-        const bool aSupera = porPeso[a].superaEmAmbas(h, climatologia);
-        const bool bSupera = porPeso[b].superaEmAmbas(h, climatologia);
-        return aSupera != bSupera
-                   ? bSupera
-                   : porPeso[a].razaoConjunta(h, climatologia) > porPeso[b].razaoConjunta(h, climatologia);
-    };
-    std::size_t melhor = 0;
-    for (std::size_t i = 1; i < porPeso.size(); ++i) {
-        if (pior(melhor, i)) {
-            melhor = i;
-        }
-    }
-    return melhor;
+std::size_t escolhePreferindoOPrimeiro(const std::vector<Desempenho>& opcoes) {
+    const auto melhor =
+        static_cast<std::size_t>(std::min_element(opcoes.begin(), opcoes.end(),
+                                                  [](const Desempenho& a, const Desempenho& b) {
+                                                      return a.semanasVencidas != b.semanasVencidas
+                                                                 ? a.semanasVencidas > b.semanasVencidas
+                                                                 : a.indice < b.indice;
+                                                  }) -
+                                 opcoes.begin());
+    return pVenceComClareza(opcoes[melhor], opcoes.front()) ? melhor : 0;
 }
 
 int anosDeRetroteste(std::size_t fim, int numSemanas) {
@@ -49,8 +57,12 @@ Candidato retrotesta(const SerieSemanal& serie, std::size_t fim, TipoTransformac
     const auto anos = static_cast<std::size_t>(anosDeRetroteste(fim, serie.getNumSemanas()));
     Candidato c;
     c.tipo = tipo;
-    PlacaresPorPeso porPeso;
-    std::vector<PlacaresPorPeso> porAno(anos);
+    // The forecasts of each weight, over all the back-test and year by year.
+    std::array<Placar, pesosCandidatos.size()> porPeso;
+    std::array<std::vector<Placar>, pesosCandidatos.size()> porPesoEAno;
+    for (auto& porAno : porPesoEAno) {
+        porAno.resize(anos);
+    }
     for (std::size_t ano = 0; ano < anos; ++ano) {
         const std::size_t inicio = fim - (anos - ano) * numSemanas;
         const Previsor previsor(serie, inicio, tipo);
@@ -70,46 +82,31 @@ Candidato retrotesta(const SerieSemanal& serie, std::size_t fim, TipoTransformac
                     porPeso[i].registra(h, previsto, observado);
                     porPeso[i].registraIntervalo(h, resumo.intervalo.inferior[h],
                                                  resumo.intervalo.superior[h], observado);
-                    porAno[ano][i].registra(h, previsto, observado);
+                    porPesoEAno[i][ano].registra(h, previsto, observado);
                 }
             }
         }
     }
-    std::array<std::size_t, horizonte> escolhidos{};
-    for (std::size_t h = 0; h < horizonte; ++h) {
-        escolhidos[h] = escolhePeso(porPeso, c.climatologia, h);
-        c.pesos[h] = pesosCandidatos[escolhidos[h]];
+    std::vector<Desempenho> desempenhos;
+    for (std::size_t i = 0; i < pesosCandidatos.size(); ++i) {
+        desempenhos.push_back(pDesempenho(porPeso[i], porPesoEAno[i], c.climatologia));
     }
-    c.placar = pCompoe(porPeso, escolhidos);
-    for (const PlacaresPorPeso& doAno : porAno) {
-        c.indicePorAno.push_back(pCompoe(doAno, escolhidos).indice(c.climatologia));
-    }
+    const std::size_t escolhido = escolhePreferindoOPrimeiro(desempenhos);
+    c.peso = pesosCandidatos[escolhido];
+    c.placar = porPeso[escolhido];
+    c.desempenho = desempenhos[escolhido];
     return c;
-}
-
-std::size_t escolheCandidato(const std::vector<Candidato>& candidatos) {
-    const auto melhor = static_cast<std::size_t>(
-        std::min_element(candidatos.begin(), candidatos.end(),
-                         [](const Candidato& a, const Candidato& b) { return a.indice() < b.indice(); }) -
-        candidatos.begin());
-    const Candidato& preferido = candidatos.front();
-    const Candidato& desafiante = candidatos[melhor];
-    std::vector<double> diferencas;
-    for (std::size_t ano = 0; ano < preferido.indicePorAno.size(); ++ano) {
-        diferencas.push_back(desafiante.indicePorAno[ano] - preferido.indicePorAno[ano]);
-    }
-    const double erroPadrao = desvioPadrao(diferencas) /
-                              std::sqrt(static_cast<double>(std::max<std::size_t>(diferencas.size(), 1)));
-    return desafiante.indice() + erroPadrao < preferido.indice() ? melhor : 0;
 }
 
 Escolha escolheModelo(const SerieSemanal& serie, std::size_t fim, const std::vector<TipoTransformacao>& tipos,
                       double confianca) {
     Escolha escolha;
+    std::vector<Desempenho> desempenhos;
     for (const TipoTransformacao tipo : tipos) {
         escolha.candidatos.push_back(retrotesta(serie, fim, tipo, confianca));
+        desempenhos.push_back(escolha.candidatos.back().desempenho);
     }
-    escolha.escolhido = escolheCandidato(escolha.candidatos);
+    escolha.escolhido = escolhePreferindoOPrimeiro(desempenhos);
     return escolha;
 }
 

@@ -2,8 +2,7 @@
 
 // Rolling-origin back-test: over each of the last years of the history the model is fitted on the
 // data before that year and forecasts six weeks from every week of it, exactly as the station's
-// forecast is made. It chooses the weight of the point forecast for each week ahead, and the
-// transformation.
+// forecast is made. It chooses the weight of the point forecast, and the transformation.
 
 #include "solver/Placar.h"
 #include "solver/PontoPrevisto.h"
@@ -25,27 +24,32 @@ inline constexpr int trajetoriasRetroteste = 100;
 // Years of back-test that the positions [0, fim) allow; 0 when the history is too short.
 int anosDeRetroteste(std::size_t fim, int numSemanas);
 
-struct Candidato {
-    TipoTransformacao tipo = TipoTransformacao::nenhuma;
-    PesosPonto pesos{};                // of the point forecast, by week ahead
-    Placar placar;                     // of the forecasts with those weights, and of the interval
-    Placar climatologia;               // of the week's mean over the years before each back-test year
-    std::vector<double> indicePorAno;  // the index of each back-test year against that climatology
-
-    // MAPE and RMSE against the climatology's, summed and averaged over the weeks ahead.
-    double indice() const { return placar.indice(climatologia); }
+// How a forecast did in the back-test against the climatology of the same weeks.
+struct Desempenho {
+    int semanasVencidas = 0;  // weeks ahead at which it beat climatology on both measures
+    // MAPE and RMSE against climatology's, summed and averaged over the weeks ahead (2 is as good
+    // as climatology), over the whole back-test and in each of its years.
+    double indice = 0.0;
+    std::vector<double> indicePorAno;
 };
 
-using PlacaresPorPeso = std::array<Placar, pesosCandidatos.size()>;
+// The first of the options, unless the best beats it clearly. The best beats climatology on both
+// measures at the most weeks ahead, since a forecast that loses to the week's mean on either fails
+// its user however well it does on the other, and then has the lowest index. It beats the first
+// clearly when its index is lower by more than one standard error of their yearly differences: a
+// few lucky weeks must not decide.
+std::size_t escolhePreferindoOPrimeiro(const std::vector<Desempenho>& opcoes);
 
-// For one week ahead, the position in pesosCandidatos of the weight to forecast with: among those
-// whose forecasts beat climatology on both measures, the one with the smallest sum of the two
-// ratios; when none does, the smallest sum. A forecast that loses to the week's mean on either
-// measure fails its user, however well it does on the other.
-std::size_t escolhePeso(const PlacaresPorPeso& porPeso, const Placar& climatologia, std::size_t h);
+struct Candidato {
+    TipoTransformacao tipo = TipoTransformacao::nenhuma;
+    double peso = 1.0;    // of the point forecast, chosen among pesosCandidatos
+    Placar placar;        // of the forecasts with that weight, and of the interval
+    Placar climatologia;  // of the week's mean over the years before each back-test year
+    Desempenho desempenho;
+};
 
-// Back-tests the model with one transformation over the positions [0, fim); confianca (0 to 1)
-// is that of the interval whose coverage it measures.
+// Back-tests the model with one transformation over the positions [0, fim) and chooses the weight
+// of its point forecast; confianca (0 to 1) is that of the interval whose coverage it measures.
 Candidato retrotesta(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, double confianca);
 
 struct Escolha {
@@ -55,11 +59,7 @@ struct Escolha {
     const Candidato& getEscolhido() const { return candidatos[escolhido]; }
 };
 
-// The candidate with the lowest index, unless it is not the first, which is preferred, by more
-// than one standard error of their yearly differences: a few lucky weeks must not decide.
-std::size_t escolheCandidato(const std::vector<Candidato>& candidatos);
-
-// Back-tests every candidate and chooses among them.
+// Back-tests every candidate and chooses among them, the first preferred.
 Escolha escolheModelo(const SerieSemanal& serie, std::size_t fim, const std::vector<TipoTransformacao>& tipos,
                       double confianca);
 

@@ -77,61 +77,32 @@ TEST(Climatologia, MediaDaSemanaEErrosApenasDosAnosAjustados) {
     EXPECT_DOUBLE_EQ(c.getErroQuadratico(), 1.0);
 }
 
-// A scoreboard with one forecast per week ahead, whose MAPE is 100 erro % and RMSE erro.
-solver::Placar pPlacar(double erro) {
-    solver::Placar p;
-    for (std::size_t h = 0; h < solver::horizonte; ++h) {
-        p.registra(h, 1.0 + erro, 1.0);
-    }
-    return p;
+solver::Desempenho pDesempenho(int semanasVencidas, std::vector<double> indicePorAno) {
+    solver::Desempenho d{semanasVencidas, solver::media(indicePorAno), std::move(indicePorAno)};
+    return d;
 }
 
-// Of MAPE 100 mape % and RMSE rmse on the first week ahead, within a millionth: a tiny flow
-// carries the relative error, a huge one the squared error.
-solver::Placar pPlacar(double mape, double rmse) {
-    solver::Placar p;
-    p.registra(0, 1e-6 * (1.0 + 2.0 * mape), 1e-6);
-    p.registra(0, 1e6 + std::sqrt(2.0) * rmse, 1e6);
-    return p;
-}
-
-TEST(Retroteste, PesoQuePerdeParaAClimatologiaNaoEEscolhido) {
-    const solver::Placar climatologia = pPlacar(0.5, 0.5);
-    ASSERT_NEAR(climatologia.mape(0), 50.0, 1e-4);
-    ASSERT_NEAR(climatologia.rmse(0), 0.5, 1e-4);
-    // The smallest sum of ratios (0.4 + 1.02) loses on RMSE; of those that beat climatology on
-    // both, the one with the smallest sum wins.
-    solver::PlacaresPorPeso porPeso = {pPlacar(0.2, 0.51), pPlacar(0.35, 0.45), pPlacar(0.3, 0.48),
-                                       pPlacar(0.45, 0.4), pPlacar(0.49, 0.49)};
-    EXPECT_EQ(solver::escolhePeso(porPeso, climatologia, 0), 2u);
-    // When none beats climatology on both, the smallest sum.
-    porPeso = {pPlacar(0.2, 0.51), pPlacar(0.6, 0.3), pPlacar(0.3, 0.6), pPlacar(0.1, 0.7),
-               pPlacar(0.7, 0.7)};
-    EXPECT_EQ(solver::escolhePeso(porPeso, climatologia, 0), 0u);
-}
-
-solver::Candidato pCandidato(double erro, std::vector<double> indicePorAno) {
-    solver::Candidato c;
-    c.placar = pPlacar(erro);
-    c.climatologia = pPlacar(1.0);
-    c.indicePorAno = std::move(indicePorAno);
-    return c;
-}
-
-TEST(Retroteste, DesafianteSoSubstituiOPreferidoComVantagemClara) {
-    // Index 2 erro: 1.0 for the preferred one.
-    const auto preferido = pCandidato(0.5, {0.8, 1.2, 0.9, 1.1, 1.0});
-    ASSERT_DOUBLE_EQ(preferido.indice(), 1.0);
+TEST(Retroteste, OPrimeiroSoPerdeParaQuemOVenceComClareza) {
+    const auto primeiro = pDesempenho(6, {0.8, 1.2, 0.9, 1.1, 1.0});
     // 2% better on the whole, but the years disagree.
-    EXPECT_EQ(solver::escolheCandidato({preferido, pCandidato(0.49, {0.9, 1.0, 1.0, 0.95, 1.05})}), 0u);
+    EXPECT_EQ(solver::escolhePreferindoOPrimeiro({primeiro, pDesempenho(6, {0.9, 1.0, 1.0, 0.95, 1.05})}),
+              0u);
     // 2% better in every year.
-    EXPECT_EQ(solver::escolheCandidato({preferido, pCandidato(0.49, {0.78, 1.18, 0.88, 1.08, 0.98})}), 1u);
-    // The best of three replaces the preferred one; a worse one never does.
-    EXPECT_EQ(solver::escolheCandidato({preferido, pCandidato(0.6, {1.0, 1.4, 1.1, 1.3, 1.2}),
-                                        pCandidato(0.4, {0.6, 1.0, 0.7, 0.9, 0.8})}),
-              2u);
+    EXPECT_EQ(solver::escolhePreferindoOPrimeiro({primeiro, pDesempenho(6, {0.78, 1.18, 0.88, 1.08, 0.98})}),
+              1u);
     // A single year gives no spread to judge by: the better one wins.
-    EXPECT_EQ(solver::escolheCandidato({pCandidato(0.5, {1.0}), pCandidato(0.49, {0.98})}), 1u);
+    EXPECT_EQ(solver::escolhePreferindoOPrimeiro({pDesempenho(6, {1.0}), pDesempenho(6, {0.98})}), 1u);
+}
+
+TEST(Retroteste, QuemPerdeParaAClimatologiaEmMaisSemanasNaoEOMelhor) {
+    const auto primeiro = pDesempenho(4, {1.6, 1.7, 1.5, 1.8, 1.6});
+    // The lowest index loses to climatology at two weeks ahead; the one that never loses, with a
+    // clearly lower index than the first's, is chosen.
+    const auto perdeEmDuas = pDesempenho(4, {1.2, 1.3, 1.1, 1.4, 1.2});
+    const auto venceEmTodas = pDesempenho(6, {1.4, 1.5, 1.3, 1.6, 1.4});
+    EXPECT_EQ(solver::escolhePreferindoOPrimeiro({primeiro, perdeEmDuas, venceEmTodas}), 2u);
+    // Winning more weeks ahead is not enough without a clearly lower index.
+    EXPECT_EQ(solver::escolhePreferindoOPrimeiro({primeiro, pDesempenho(6, {1.7, 1.6, 1.6, 1.7, 1.7})}), 0u);
 }
 
 // Weekly flows whose logarithm is a seasonal mean plus a first-order autoregression: strongly
@@ -155,12 +126,14 @@ TEST(Retroteste, EscolheOLogaritmoEmVazoesLogNormaisEBateAClimatologia) {
     ASSERT_EQ(escolha.candidatos.size(), 2u);
     EXPECT_EQ(escolha.getEscolhido().tipo, TipoTransformacao::logaritmica);
     const solver::Candidato& log = escolha.getEscolhido();
-    EXPECT_EQ(log.indicePorAno.size(), static_cast<std::size_t>(solver::maximoAnosRetroteste));
+    EXPECT_EQ(log.desempenho.indicePorAno.size(), static_cast<std::size_t>(solver::maximoAnosRetroteste));
+    EXPECT_EQ(log.desempenho.semanasVencidas, solver::horizonte);
+    EXPECT_DOUBLE_EQ(log.desempenho.indice, log.placar.indice(log.climatologia));
+    EXPECT_NE(std::find(solver::pesosCandidatos.begin(), solver::pesosCandidatos.end(), log.peso),
+              solver::pesosCandidatos.end());
     for (std::size_t h = 0; h < solver::horizonte; ++h) {
         EXPECT_TRUE(log.placar.superaEmAmbas(h, log.climatologia)) << h;
         EXPECT_EQ(log.placar.casos(h), log.climatologia.casos(h));
-        EXPECT_NE(std::find(solver::pesosCandidatos.begin(), solver::pesosCandidatos.end(), log.pesos[h]),
-                  solver::pesosCandidatos.end());
         // The 95% interval of the process it was built for, from the back-test's few paths.
         EXPECT_GT(log.placar.cobertura(h), 85.0) << h;
         EXPECT_LT(log.placar.cobertura(h), 99.0) << h;
