@@ -17,6 +17,8 @@ constexpr int SemLimite = 32767;
 }  // namespace
 
 Combo::Combo(QWidget* pai) : QComboBox(pai) {
+    // Room for a site's name even before the list is first read.
+    setMinimumContentsLength(20);
     setInsertPolicy(QComboBox::NoInsert);
     pPreparaEdicao();
     connect(this, &QComboBox::activated, this, &Combo::pEscolhido);

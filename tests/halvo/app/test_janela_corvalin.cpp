@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QMdiArea>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -151,8 +152,12 @@ void TesteJanelaCorvalin::capturaSePedida() {
     if (qEnvironmentVariableIsEmpty("HALVO_CAPTURA_JANELA")) {
         return;
     }
-    mJanela->resize(1000, 640);
+    mJanela->resize(1100, 680);
     mJanela->show();
+    for (const char* tela : {"acaoTela_4_1", "acaoTela_4_3"}) {
+        aciona(tela);
+    }
+    mJanela->Area().cascadeSubWindows();
     QVERIFY(QTest::qWaitForWindowExposed(mJanela));
     const QString arquivo =
         QDir::cleanPath(QStringLiteral(CORVALIN_DADOS_TESTE "/../../docs/janela-principal.png"));
