@@ -8,7 +8,7 @@ namespace halvo {
 
 // The host's names of the groups of screens that a model offers (groups 1 to 4), as its menus
 // show them, with their accelerators.
-inline constexpr std::array<const char16_t*, 4> MenusDosGrupos{u"&Cadastro", u"&Importação", u"&Execução",
+inline constexpr std::array<const char16_t*, 4> MenusDosGrupos{u"Ca&dastro", u"&Importação", u"&Execução",
                                                                u"&Resultados"};
 
 inline QString MenuDoGrupo(int grupo) {

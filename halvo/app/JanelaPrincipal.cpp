@@ -159,7 +159,7 @@ void JanelaPrincipal::pCriaMenuJanela(QDockWidget& doca) {
 }
 
 void JanelaPrincipal::pCriaMenuAjuda() {
-    QMenu* menu = menuBar()->addMenu(QStringLiteral("A&juda"));
+    QMenu* menu = menuBar()->addMenu(QStringLiteral("Aj&uda"));
     menu->setObjectName(QStringLiteral("menuAjuda"));
     QAction* sobre = pAcao(QStringLiteral("acaoSobre"), QStringLiteral("&Sobre..."));
     menu->addAction(sobre);

@@ -174,8 +174,8 @@ void TesteJanela::menusDasTelasSoComCasoAberto() {
         menus << menu->text();
     }
     QCOMPARE(menus,
-             (QStringList{QStringLiteral("&Caso"), QStringLiteral("&Cadastro"), QStringLiteral("&Execução"),
-                          QStringLiteral("&Janela"), QStringLiteral("A&juda")}));
+             (QStringList{QStringLiteral("&Caso"), QStringLiteral("Ca&dastro"), QStringLiteral("&Execução"),
+                          QStringLiteral("&Janela"), QStringLiteral("Aj&uda")}));
     QStringList cadastro;
     for (QAction* item : mJanela->findChild<QMenu*>(QStringLiteral("menuGrupo_1"))->actions()) {
         cadastro << (item->isSeparator() ? QStringLiteral("--") : item->text());
