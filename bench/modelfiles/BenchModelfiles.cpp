@@ -159,7 +159,8 @@ int main() {
     QStringList arquivos;
     QStringList semGravar;
     for (const Posto& posto : postos) {
-        arquivos << execucao + QString::number(posto.Codigo) + QDir::separator() + QStringLiteral("vazoes.dat");
+        arquivos << execucao + QString::number(posto.Codigo) + QDir::separator() +
+                        QStringLiteral("vazoes.dat");
         semGravar << pUltimoValorInvalido(arquivos.back());
     }
     Caso destino(pasta.filePath(QStringLiteral("destino")));
@@ -193,9 +194,10 @@ int main() {
         iguais += igual;
     }
 
-    std::printf("%d stations x %d years x %d weeks (%d values)\n", Postos, Anos, Semanas, Postos * Anos * Semanas);
-    std::printf("import, total           %8.3f s  (%d imported, %d read back equal)\n", importacao, importados,
-                iguais);
+    std::printf("%d stations x %d years x %d weeks (%d values)\n", Postos, Anos, Semanas,
+                Postos * Anos * Semanas);
+    std::printf("import, total           %8.3f s  (%d imported, %d read back equal)\n", importacao,
+                importados, iguais);
     std::printf("import, per station     %8.2f ms\n", importacao * 1000 / Postos);
     std::printf("parse, without storing  %8.3f s  (%.0f%% of the import; %d files read whole and refused)\n",
                 leitura, 100 * leitura / importacao, rejeitados);

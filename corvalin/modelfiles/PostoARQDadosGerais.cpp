@@ -113,7 +113,8 @@ bool PostoARQ::importaDadosGerais(const QString& arquivo, Posto& posto, PostoBD&
 
 bool PostoARQ::geraDadosGerais(const QString& pasta, const Posto& posto, Progresso& progresso) const {
     const OpcoesArquivos& arquivos = posto.Arquivos;
-    const auto saida = AbreArquivoGravacao(postoarq::pCaminhoDoPosto(pasta, posto.Codigo, arquivos.ArquivoDadosGerais));
+    const auto saida =
+        AbreArquivoGravacao(postoarq::pCaminhoDoPosto(pasta, posto.Codigo, arquivos.ArquivoDadosGerais));
     if (!saida) {
         return false;
     }
@@ -139,7 +140,8 @@ bool PostoARQ::geraDadosGerais(const QString& pasta, const Posto& posto, Progres
         arquivos.NaoUsaLimite ? QString() : posto.NomeArqLimite,
         numero(arquivos.CasoUsa53Semanas),
     };
-    constexpr double passos[] = {100, 200, 250, 300, 350, 400, 450, 500, 550, 600, 650, 700, 725, 750, 775, 800, 800};
+    constexpr double passos[] = {100, 200, 250, 300, 350, 400, 450, 500, 550,
+                                 600, 650, 700, 725, 750, 775, 800, 800};
     static_assert(std::size(passos) == 17);
     for (qsizetype i = 0; i < linhas.size(); ++i) {
         saida->Print(linhas[i]);

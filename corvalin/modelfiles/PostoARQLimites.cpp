@@ -40,7 +40,8 @@ int pPeriodos(std::uint8_t discretizacao, const Posto& posto) {
 
 }  // namespace
 
-bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& postoBD, QString& mensagem) const {
+bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& postoBD,
+                              QString& mensagem) const {
     if (!halvo::UtilitariosArquivo().ArquivoExiste(arquivo)) {
         return false;
     }
@@ -51,7 +52,8 @@ bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& pos
         // keep Str's leading blank.
         if (!pCodigoValido(discretizacao)) {
             mensagem = posto.Nome + QStringLiteral(" - ") + QString::number(posto.NumeroPosto) + u':' +
-                       QStringLiteral("Valor inválido para o período de composição da distribuição das variáveis (") +
+                       QStringLiteral(
+                           "Valor inválido para o período de composição da distribuição das variáveis (") +
                        Str(discretizacao) + QStringLiteral(").");
             return false;
         }
@@ -59,8 +61,8 @@ bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& pos
         const std::uint8_t magnitude = CByte(Val(entrada.LineInput()));
         if (!pCodigoValido(magnitude)) {
             mensagem = posto.Nome + QStringLiteral(" - ") + QString::number(posto.Codigo) + u':' +
-                       QStringLiteral("Valor inválido para a divisão da magnitude de vazão (") + Str(magnitude) +
-                       QStringLiteral(").");
+                       QStringLiteral("Valor inválido para a divisão da magnitude de vazão (") +
+                       Str(magnitude) + QStringLiteral(").");
             return false;
         }
         plataforma::Vetor<float> limiteInferior(periodos);
@@ -69,7 +71,8 @@ bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& pos
         for (int periodo = 1; periodo <= periodos; ++periodo) {
             if (entrada.Eof()) {
                 mensagem = QStringLiteral(
-                    "Alerta: Alguns valores de limite da restrição não foram informados no arquivo. Será adotado o "
+                    "Alerta: Alguns valores de limite da restrição não foram informados no arquivo. Será "
+                    "adotado o "
                     "valor padrão zero (0).");
                 break;
             }
@@ -95,7 +98,8 @@ bool PostoARQ::importaLimites(const QString& arquivo, Posto& posto, PostoBD& pos
 bool PostoARQ::geraLimites(const QString& pasta, Posto& posto, PostoBD& postoBD) const {
     posto.NomeArqLimite = postoarq::pExtensaoLimites(posto.NomeArqLimite);
     postoBD.setDadosGerais(posto);
-    const auto saida = AbreArquivoGravacao(postoarq::pCaminhoDoPosto(pasta, posto.Codigo, posto.NomeArqLimite));
+    const auto saida =
+        AbreArquivoGravacao(postoarq::pCaminhoDoPosto(pasta, posto.Codigo, posto.NomeArqLimite));
     if (!saida) {
         return false;
     }

@@ -90,8 +90,8 @@ QString pAlinhaDireita(const QString& texto, qsizetype largura) {
 
 }  // namespace
 
-bool PostoARQ::importaVazoesSemanais(const QString& arquivo, QString& erros, Progresso& progresso, Posto& posto,
-                                     PostoBD& postoBD, OpcoesBD& opcoesBD, bool semNomesPadrao,
+bool PostoARQ::importaVazoesSemanais(const QString& arquivo, QString& erros, Progresso& progresso,
+                                     Posto& posto, PostoBD& postoBD, OpcoesBD& opcoesBD, bool semNomesPadrao,
                                      bool soCabecalho) const {
     if (!halvo::UtilitariosArquivo().ArquivoExiste(arquivo)) {
         return false;
@@ -109,7 +109,8 @@ bool PostoARQ::importaVazoesSemanais(const QString& arquivo, QString& erros, Pro
         if (posto.Codigo == 0 || Trim(posto.Nome).isEmpty()) {
             progresso.Esconde();
             halvo::Servicos::dialogo().Mensagem(
-                QStringLiteral("Arquivo com formato incompatível. Verifique se o arquivo selecionado é válido."),
+                QStringLiteral(
+                    "Arquivo com formato incompatível. Verifique se o arquivo selecionado é válido."),
                 Mensagens::msgTituloInformacao, halvo::Icone::Nenhum, halvo::Botoes::Ok);
             return false;
         }
@@ -147,8 +148,8 @@ bool PostoARQ::importaVazoesSemanais(const QString& arquivo, QString& erros, Pro
 
 bool PostoARQ::geraVazoesSemanais(const QString& pasta, const Posto& posto, PostoBD& postoBD,
                                   Progresso& progresso) const {
-    const auto saida =
-        AbreArquivoGravacao(postoarq::pCaminhoDoPosto(pasta, posto.Codigo, posto.Arquivos.ArquivoVazoesSemanais));
+    const auto saida = AbreArquivoGravacao(
+        postoarq::pCaminhoDoPosto(pasta, posto.Codigo, posto.Arquivos.ArquivoVazoesSemanais));
     if (!saida) {
         return false;
     }
@@ -158,8 +159,9 @@ bool PostoARQ::geraVazoesSemanais(const QString& pasta, const Posto& posto, Post
 
     saida->Print(postoarq::pPreencher(Trim(Str(posto.Codigo)), 7, true) + u' ' + posto.Nome +
                  Space(60 - posto.Nome.size()));
-    saida->Print(pAlinhaDireita(Trim(Str(posto.AnoInicial)), 5) + pAlinhaDireita(Trim(Str(posto.AnoFinal)), 5) +
-                 pAlinhaDireita(Trim(Str(posto.Area)), 8) + u'.');
+    saida->Print(pAlinhaDireita(Trim(Str(posto.AnoInicial)), 5) +
+                 pAlinhaDireita(Trim(Str(posto.AnoFinal)), 5) + pAlinhaDireita(Trim(Str(posto.Area)), 8) +
+                 u'.');
 
     const int numSemanas = posto.getNumSemanas();
     for (int ano = posto.AnoInicial; ano <= posto.AnoFinal; ++ano) {

@@ -55,8 +55,8 @@ bool PostoARQ::importaVazpast(QString& arquivo, Posto& posto, PostoBD& postoBD, 
         while (!entrada.Eof()) {
             const QString linha = entrada.LineInput();
             if (Val(Trim(Left(linha, 5))) == posto.Codigo) {
-                double* const valores[] = {&posto.VazpastSemana_1, &posto.VazpastSemana_2, &posto.VazpastSemana_3,
-                                           &posto.VazpastSemana_4};
+                double* const valores[] = {&posto.VazpastSemana_1, &posto.VazpastSemana_2,
+                                           &posto.VazpastSemana_3, &posto.VazpastSemana_4};
                 for (std::size_t i = 0; i < ColunasLidas.size(); ++i) {
                     *valores[i] = pNumeroEstrito(Mid(linha, ColunasLidas[i], LarguraLida));
                 }
@@ -74,7 +74,8 @@ bool PostoARQ::importaVazpast(QString& arquivo, Posto& posto, PostoBD& postoBD, 
 }
 
 bool PostoARQ::geraVazpast(const QString& pasta, const Posto& posto) const {
-    const auto saida = AbreArquivoGravacao(postoarq::pCaminhoDoPosto(pasta, posto.Codigo, posto.NomeArqVazpast));
+    const auto saida =
+        AbreArquivoGravacao(postoarq::pCaminhoDoPosto(pasta, posto.Codigo, posto.NomeArqVazpast));
     if (!saida) {
         return false;
     }

@@ -11,7 +11,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dados, std::size_t tam
     const bool importou = ambiente.executa([&] {
         corvalin::Posto posto = fuzz::Ambiente::SaoSimao();
         corvalin::ProgressoNulo progresso;
-        return corvalin::PostoARQ().importaDadosGerais(caminho, posto, ambiente.postoBD, erros, progresso, false);
+        return corvalin::PostoARQ().importaDadosGerais(caminho, posto, ambiente.postoBD, erros, progresso,
+                                                       false);
     });
     fuzz::Ambiente::exige(erros == (importou ? QString() : QStringLiteral("Dados Gerais")),
                           "a failure is one entry of the list");

@@ -16,7 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dados, std::size_t tam
         fuzz::Ambiente::exige(mensagem.isEmpty() || mensagem.startsWith(QStringLiteral("Alerta: ")),
                               "an import says nothing or warns");
     } else {
-        fuzz::Ambiente::exige(mensagem.isEmpty() || mensagem.startsWith(QStringLiteral("São Simão - 0:Valor ")) ||
+        fuzz::Ambiente::exige(mensagem.isEmpty() ||
+                                  mensagem.startsWith(QStringLiteral("São Simão - 0:Valor ")) ||
                                   mensagem.startsWith(QStringLiteral("São Simão - 33:Valor ")),
                               "a refusal names the bad grouping or magnitude, or says nothing");
     }

@@ -11,7 +11,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* dados, std::size_t tam
     QString erros;
     const bool importou = ambiente.executa([&] {
         corvalin::Posto posto = fuzz::Ambiente::SaoSimao();
-        QString caminho = QFileInfo(vazpast).absolutePath() + QDir::separator() + QStringLiteral("SSIMAO.arq");
+        QString caminho =
+            QFileInfo(vazpast).absolutePath() + QDir::separator() + QStringLiteral("SSIMAO.arq");
         return corvalin::PostoARQ().importaVazpast(caminho, posto, ambiente.postoBD, erros, false);
     });
     fuzz::Ambiente::exige(erros == (importou ? QString() : QStringLiteral("Vazpasts")),

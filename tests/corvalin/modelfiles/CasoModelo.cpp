@@ -155,6 +155,10 @@ QString CasoModelo::pastaExecucao() const {
     return QDir::toNativeSeparators(host.caminho(QStringLiteral("execucao"))) + QDir::separator();
 }
 
+QString CasoModelo::gerado(std::int32_t codigo, const QString& nome) const {
+    return pastaExecucao() + QString::number(codigo) + QDir::separator() + nome;
+}
+
 void CasoModelo::grava(Posto posto, const Historico& vazoes) {
     ASSERT_TRUE(postoBD.setPosto(posto));
     postoBD.setHistorico(posto, vazoes);
@@ -181,8 +185,9 @@ int CasoModelo::contaLinhas(const QString& tabela) const {
 
 ::testing::AssertionResult MesmoHistorico(const Historico& esperado, const Historico& lido) {
     if (esperado.UBound1() != lido.UBound1() || esperado.UBound2() != lido.UBound2()) {
-        return ::testing::AssertionFailure() << "shape " << lido.UBound1() << "x" << lido.UBound2() << " instead of "
-                                             << esperado.UBound1() << "x" << esperado.UBound2();
+        return ::testing::AssertionFailure()
+               << "shape " << lido.UBound1() << "x" << lido.UBound2() << " instead of " << esperado.UBound1()
+               << "x" << esperado.UBound2();
     }
     for (int i = 0; i <= esperado.UBound1(); ++i) {
         for (int j = 0; j <= esperado.UBound2(); ++j) {

@@ -50,8 +50,9 @@ protected:
     static QByteArray conteudo(const QString& caminho);
     // Writes a file in the test's folder and answers its path.
     QString arquivo(const QString& nome, const QByteArray& bytes) const;
-    // The run folder of the writers, ending in the separator.
+    // The run folder of the writers, ending in the separator, and a station's file in it.
     QString pastaExecucao() const;
+    QString gerado(std::int32_t codigo, const QString& nome) const;
 
     // Stores a station and its history as the station screen would.
     void grava(corvalin::Posto posto, const corvalin::Historico& vazoes);
@@ -70,6 +71,7 @@ protected:
 };
 
 // Same shape and the same values in every position.
-::testing::AssertionResult MesmoHistorico(const corvalin::Historico& esperado, const corvalin::Historico& lido);
+::testing::AssertionResult MesmoHistorico(const corvalin::Historico& esperado,
+                                          const corvalin::Historico& lido);
 
 }  // namespace teste

@@ -1,18 +1,16 @@
 #include "tests/corvalin/modelfiles/CasoModelo.h"
 
-#include <QDir>
-
 namespace {
 
 using corvalin::Posto;
 
 // The general data file of São Simão, line by line.
 QStringList linhasSaoSimao() {
-    return {QStringLiteral("SSIMAO.rel"), QStringLiteral("S"),    QStringLiteral("SSIMAO.dat"),
-            QStringLiteral("5"),          QStringLiteral("1"),    QStringLiteral("SSIMAO.prv"),
-            QStringLiteral("SSIMAO.exc"), QStringLiteral("95"),   QStringLiteral("31"),
-            QStringLiteral("1997"),       QStringLiteral("0"),    QStringLiteral("Vazpast.dat"),
-            QStringLiteral("1997"),       QStringLiteral("33"),   QStringLiteral("1"),
+    return {QStringLiteral("SSIMAO.rel"), QStringLiteral("S"),  QStringLiteral("SSIMAO.dat"),
+            QStringLiteral("5"),          QStringLiteral("1"),  QStringLiteral("SSIMAO.prv"),
+            QStringLiteral("SSIMAO.exc"), QStringLiteral("95"), QStringLiteral("31"),
+            QStringLiteral("1997"),       QStringLiteral("0"),  QStringLiteral("Vazpast.dat"),
+            QStringLiteral("1997"),       QStringLiteral("33"), QStringLiteral("1"),
             QStringLiteral("SSIMAO.lim"), QStringLiteral("0")};
 }
 
@@ -29,20 +27,18 @@ protected:
     Posto idaEVolta(const Posto& posto) {
         EXPECT_TRUE(arq.geraDadosGerais(pastaExecucao(), posto, progresso));
         Posto lido;
-        EXPECT_TRUE(importa(pastaExecucao() + QString::number(posto.Codigo) + QDir::separator() +
-                                posto.Arquivos.ArquivoDadosGerais,
-                            lido, true));
+        EXPECT_TRUE(importa(gerado(posto.Codigo, posto.Arquivos.ArquivoDadosGerais), lido, true));
         return lido;
     }
 };
 
 TEST_F(DadosGeraisTeste, GeraODouradoComPassosDeUmOitavo) {
     ASSERT_TRUE(arq.geraDadosGerais(pastaExecucao(), teste::SaoSimao(), progresso));
-    EXPECT_EQ(conteudo(pastaExecucao() + QStringLiteral("33") + QDir::separator() + QStringLiteral("SSIMAO.arq")),
+    EXPECT_EQ(conteudo(gerado(33, QStringLiteral("SSIMAO.arq"))),
               dourado(QStringLiteral("sao_simao/SSIMAO.arq")));
     EXPECT_EQ(dourado(QStringLiteral("sao_simao/SSIMAO.arq")), linhas(linhasSaoSimao()));
-    const std::vector<double> passos = {0,    12.5, 25,   31.25, 37.5,   43.75, 50,  56.25, 62.5,
-                                        68.75, 75,  81.25, 87.5, 90.625, 93.75, 96.875, 100, 100};
+    const std::vector<double> passos = {0,     12.5, 25,    31.25, 37.5,   43.75, 50,     56.25, 62.5,
+                                        68.75, 75,   81.25, 87.5,  90.625, 93.75, 96.875, 100,   100};
     EXPECT_EQ(progresso.Valores, passos);
 }
 
@@ -54,7 +50,8 @@ TEST_F(DadosGeraisTeste, LeODouradoEGuardaSoQuandoNaoEValidacao) {
     posto = Posto();
     ASSERT_TRUE(importa(caminhoDourado(QStringLiteral("sao_simao/SSIMAO.arq")), posto, true));
     EXPECT_EQ(contaLinhas(QStringLiteral("DadosGerais")), 0) << "validation stores nothing";
-    const std::vector<double> passos = {0, 12.5, 25, 37.5, 50, 62.5, 68.75, 75, 78.125, 81.25, 87.5, 90, 93.75, 100};
+    const std::vector<double> passos = {0,  12.5,   25,    37.5, 50, 62.5,  68.75,
+                                        75, 78.125, 81.25, 87.5, 90, 93.75, 100};
     EXPECT_EQ(progresso.Valores, passos);
 
     posto = Posto();
@@ -85,8 +82,8 @@ TEST_F(DadosGeraisTeste, LeODouradoEGuardaSoQuandoNaoEValidacao) {
 TEST_F(DadosGeraisTeste, ColunasLidasDeCadaLinha) {
     QStringList texto = linhasSaoSimao();
     texto[0] = QStringLiteral("  RELATORIO123.rel  ");  // 12 columns, then trimmed
-    texto[3] = QStringLiteral("10");                     // one column
-    texto[4] = QStringLiteral("123");                    // two columns
+    texto[3] = QStringLiteral("10");                    // one column
+    texto[4] = QStringLiteral("123");                   // two columns
     texto[7] = QStringLiteral("  95 %");
     texto[8] = QStringLiteral("4 7");
     texto[9] = QStringLiteral("19991");
@@ -103,12 +100,10 @@ TEST_F(DadosGeraisTeste, ColunasLidasDeCadaLinha) {
     EXPECT_EQ(posto.Codigo, 1234);
     EXPECT_EQ(posto.Arquivos.CasoUsa53Semanas, 1);
 
-    for (const auto& [impressao, esperado] : {std::pair{QStringLiteral("s"), true},
-                                              std::pair{QStringLiteral("Sim"), true},
-                                              std::pair{QStringLiteral("N"), false},
-                                              std::pair{QStringLiteral("n"), false},
-                                              std::pair{QStringLiteral(" S"), false},
-                                              std::pair{QString(), false}}) {
+    for (const auto& [impressao, esperado] :
+         {std::pair{QStringLiteral("s"), true}, std::pair{QStringLiteral("Sim"), true},
+          std::pair{QStringLiteral("N"), false}, std::pair{QStringLiteral("n"), false},
+          std::pair{QStringLiteral(" S"), false}, std::pair{QString(), false}}) {
         texto[1] = impressao;
         ASSERT_TRUE(importaLinhas(texto, posto));
         EXPECT_EQ(posto.ImpressaoParametros, esperado) << impressao.toStdString();
@@ -139,9 +134,7 @@ TEST_F(DadosGeraisTeste, IdaEVoltaPerdeOQueOFormatoNaoGuarda) {
     lido = idaEVolta(posto);
     EXPECT_EQ(lido.FlagLimite, 0);
     EXPECT_EQ(lido.NomeArqLimite, QStringLiteral("0"));
-    EXPECT_EQ(conteudo(pastaExecucao() + QStringLiteral("33") + QDir::separator() + QStringLiteral("SSIMAO.arq"))
-                  .split('\n')
-                  .mid(14, 2),
+    EXPECT_EQ(conteudo(gerado(33, QStringLiteral("SSIMAO.arq"))).split('\n').mid(14, 2),
               (QList<QByteArray>{" 0 \r", "\r"}));
     posto.Arquivos.NaoUsaLimite = false;
     posto.FlagLimite = 0;

@@ -1,8 +1,6 @@
 #include "platform/runtime/Vetor.h"
 #include "tests/corvalin/modelfiles/CasoModelo.h"
 
-#include <QDir>
-
 namespace {
 
 using corvalin::Posto;
@@ -33,7 +31,8 @@ protected:
         mensagem = QStringLiteral("antes");
     }
     bool importa(const QStringList& texto) {
-        return arq.importaLimites(arquivo(QStringLiteral("SSIMAO.LIM"), linhas(texto)), posto, postoBD, mensagem);
+        return arq.importaLimites(arquivo(QStringLiteral("SSIMAO.LIM"), linhas(texto)), posto, postoBD,
+                                  mensagem);
     }
     Limites guardados(std::uint8_t tipo, int periodos) const {
         Vetor<std::int16_t> ordem(periodos);
@@ -65,8 +64,7 @@ TEST_F(LimitesTeste, GeraODouradoEmF41) {
     posto.Magnitude = 3;
     ASSERT_TRUE(arq.geraLimites(pastaExecucao(), posto, postoBD));
     EXPECT_EQ(posto.NomeArqLimite, QStringLiteral("SSIMAO.lim"));
-    const QByteArray bytes =
-        conteudo(pastaExecucao() + QStringLiteral("33") + QDir::separator() + QStringLiteral("SSIMAO.lim"));
+    const QByteArray bytes = conteudo(gerado(33, QStringLiteral("SSIMAO.lim")));
     EXPECT_EQ(bytes, dourado(QStringLiteral("sao_simao/SSIMAO.lim")));
     EXPECT_TRUE(bytes.startsWith("2 \r\n3 \r\n1   2.5 97.5\r\n"));
     EXPECT_TRUE(bytes.endsWith("\r\n10  2.5 97.5\r\n11  2.5 97.5\r\n12  2.5 99.9\r\n"));
@@ -80,7 +78,8 @@ TEST_F(LimitesTeste, LeODouradoEGuarda) {
     catalogo.Codigo = 33;
     catalogo.Nome = QStringLiteral("São Simão");
     ASSERT_TRUE(postoBD.setPosto(catalogo));
-    ASSERT_TRUE(arq.importaLimites(caminhoDourado(QStringLiteral("sao_simao/SSIMAO.lim")), posto, postoBD, mensagem));
+    ASSERT_TRUE(
+        arq.importaLimites(caminhoDourado(QStringLiteral("sao_simao/SSIMAO.lim")), posto, postoBD, mensagem));
     EXPECT_EQ(mensagem, QStringLiteral("antes"));
     EXPECT_EQ(posto.discretizacao, 2);
     EXPECT_EQ(posto.Magnitude, 3);
@@ -93,16 +92,19 @@ TEST_F(LimitesTeste, LeODouradoEGuarda) {
 
     // The last three characters go, whatever they are.
     posto.NomeArqLimite = QStringLiteral("LIMITES");
-    ASSERT_TRUE(arq.importaLimites(caminhoDourado(QStringLiteral("sao_simao/SSIMAO.lim")), posto, postoBD, mensagem));
+    ASSERT_TRUE(
+        arq.importaLimites(caminhoDourado(QStringLiteral("sao_simao/SSIMAO.lim")), posto, postoBD, mensagem));
     EXPECT_EQ(posto.NomeArqLimite, QStringLiteral("LIMIlim"));
 }
 
 TEST_F(LimitesTeste, CodigosForaDe1A4TemSuasMensagens) {
     EXPECT_FALSE(importa({QStringLiteral("7"), QStringLiteral("1")}));
-    EXPECT_EQ(mensagem, QStringLiteral("São Simão - 0:Valor inválido para o período de composição da distribuição "
-                                       "das variáveis ( 7)."));
+    EXPECT_EQ(mensagem,
+              QStringLiteral("São Simão - 0:Valor inválido para o período de composição da distribuição "
+                             "das variáveis ( 7)."));
     EXPECT_FALSE(importa({QStringLiteral("2 "), QStringLiteral("0")}));
-    EXPECT_EQ(mensagem, QStringLiteral("São Simão - 33:Valor inválido para a divisão da magnitude de vazão ( 0)."));
+    EXPECT_EQ(mensagem,
+              QStringLiteral("São Simão - 33:Valor inválido para a divisão da magnitude de vazão ( 0)."));
     EXPECT_EQ(posto.discretizacao, 0);
     esperaNadaGuardado();
 }
@@ -110,15 +112,16 @@ TEST_F(LimitesTeste, CodigosForaDe1A4TemSuasMensagens) {
 TEST_F(LimitesTeste, NumeroDoPeriodoDecideAPosicao) {
     // Quarterly: four lines are read whatever they say; the fifth never is.
     ASSERT_TRUE(importa({QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("3  30.0 70.0"),
-                         QStringLiteral("1  10.0 90.0"), QStringLiteral("0  99.9 99.9"), QStringLiteral("3  33.0 77,0"),
-                         QStringLiteral("2  20.0 80.0")}));
+                         QStringLiteral("1  10.0 90.0"), QStringLiteral("0  99.9 99.9"),
+                         QStringLiteral("3  33.0 77,0"), QStringLiteral("2  20.0 80.0")}));
     EXPECT_EQ(mensagem, QStringLiteral("antes"));
     EXPECT_EQ(guardados(3, 4), (Limites{{0, 10, 0, 33, 0}, {0, 90, 0, 77, 0}}));
 
     // Fewer lines than periods: a warning, and zeros stored for the rest.
     ASSERT_TRUE(importa({QStringLiteral("4"), QStringLiteral("1"), QStringLiteral("2   1.5 98.5")}));
-    EXPECT_EQ(mensagem, QStringLiteral("Alerta: Alguns valores de limite da restrição não foram informados no "
-                                       "arquivo. Será adotado o valor padrão zero (0)."));
+    EXPECT_EQ(mensagem,
+              QStringLiteral("Alerta: Alguns valores de limite da restrição não foram informados no "
+                             "arquivo. Será adotado o valor padrão zero (0)."));
     EXPECT_EQ(guardados(4, 2), (Limites{{0, 0, 1.5f}, {0, 0, 98.5f}}));
     EXPECT_EQ(guardados(3, 4).inferior[1], 10) << "each grouping keeps its own rows";
 

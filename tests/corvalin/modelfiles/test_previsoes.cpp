@@ -30,7 +30,8 @@ protected:
     };
 
     bool importa(const QStringList& texto) {
-        return arq.importaPRV(arquivo(QStringLiteral("SSIMAO.prv"), linhas(texto)), teste::SaoSimao(), postoBD);
+        return arq.importaPRV(arquivo(QStringLiteral("SSIMAO.prv"), linhas(texto)), teste::SaoSimao(),
+                              postoBD);
     }
     Previstas guardadas() const {
         Vetor<float> p, i, s;
@@ -71,13 +72,14 @@ TEST_F(PrevisoesTeste, SoAsTresUltimasLinhasContam) {
 }
 
 TEST_F(PrevisoesTeste, CamposCurtosOuComTextoLemOQueTem) {
-    ASSERT_TRUE(importa({linhaPrevista(QStringLiteral("P"), {"12.5m3", "-3", "1 5", "x7"}),
-                         QStringLiteral("curta"),
-                         linhaPrevista(QStringLiteral("S"), {"1", "2"}).left(24 + 9 + 5)}));
+    ASSERT_TRUE(
+        importa({linhaPrevista(QStringLiteral("P"), {"12.5m3", "-3", "1 5", "x7"}), QStringLiteral("curta"),
+                 linhaPrevista(QStringLiteral("S"), {"1", "2"}).left(24 + 9 + 5)}));
     const Previstas lidas = guardadas();
     EXPECT_EQ(lidas.previsao, (std::vector<float>{12.5f, -3, 15, 0, 0, 0}));
     EXPECT_EQ(lidas.inferior, zeros);
-    EXPECT_EQ(lidas.superior, (std::vector<float>{1, 0, 0, 0, 0, 0})) << "the second field is cut to its blanks";
+    EXPECT_EQ(lidas.superior, (std::vector<float>{1, 0, 0, 0, 0, 0}))
+        << "the second field is cut to its blanks";
 }
 
 TEST_F(PrevisoesTeste, FalhasNaoGuardamNada) {

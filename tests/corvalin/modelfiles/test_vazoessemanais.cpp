@@ -3,8 +3,6 @@
 #include "platform/runtime/ErroVB.h"
 #include "tests/corvalin/modelfiles/CasoModelo.h"
 
-#include <QDir>
-
 #include <algorithm>
 
 namespace {
@@ -37,7 +35,8 @@ QStringList anoCompleto(int ano) {
 
 class VazoesSemanaisTeste : public teste::CasoModelo {
 protected:
-    bool importa(const QString& caminho, Posto& posto, bool semNomesPadrao = false, bool soCabecalho = false) {
+    bool importa(const QString& caminho, Posto& posto, bool semNomesPadrao = false,
+                 bool soCabecalho = false) {
         return arq.importaVazoesSemanais(caminho, erros, progresso, posto, postoBD, opcoesBD, semNomesPadrao,
                                          soCabecalho);
     }
@@ -47,8 +46,7 @@ protected:
                        linhas(QStringList{QStringLiteral("      33 Jupiá"), periodo} + dados));
     }
     QString caminhoGerado(const Posto& posto) const {
-        return pastaExecucao() + QString::number(posto.Codigo) + QDir::separator() +
-               posto.Arquivos.ArquivoVazoesSemanais;
+        return gerado(posto.Codigo, posto.Arquivos.ArquivoVazoesSemanais);
     }
     void esperaNadaGravado() {
         EXPECT_EQ(contaLinhas(QStringLiteral("Postos")), 0);
@@ -60,14 +58,16 @@ protected:
 TEST_F(VazoesSemanaisTeste, GeraOsArquivosDouradosComAcentosE53Semanas) {
     for (const auto& [posto, vazoes, dourado] :
          {std::tuple{teste::SaoSimao(), teste::HistoricoSaoSimao(), QStringLiteral("sao_simao/SSIMAO.dat")},
-          std::tuple{teste::TresMarias(), teste::HistoricoTresMarias(), QStringLiteral("tres_marias/TMARIAS.dat")}}) {
+          std::tuple{teste::TresMarias(), teste::HistoricoTresMarias(),
+                     QStringLiteral("tres_marias/TMARIAS.dat")}}) {
         grava(posto, vazoes);
         progresso.Valores.clear();
         ASSERT_TRUE(arq.geraVazoesSemanais(pastaExecucao(), posto, postoBD, progresso));
         EXPECT_EQ(conteudo(caminhoGerado(posto)), CasoModelo::dourado(dourado)) << dourado.toStdString();
         ASSERT_FALSE(progresso.Valores.empty());
         EXPECT_EQ(progresso.Valores.front(), 0);
-        EXPECT_DOUBLE_EQ(progresso.Valores[1], 100.0 / (3 * posto.getNumSemanas())) << "week 1 of the first year";
+        EXPECT_DOUBLE_EQ(progresso.Valores[1], 100.0 / (3 * posto.getNumSemanas()))
+            << "week 1 of the first year";
         EXPECT_TRUE(std::is_sorted(progresso.Valores.begin(), progresso.Valores.end()));
     }
     // A few bytes checked by hand: the code in columns 1 to 8, "ã" as one Windows-1252 byte, the
@@ -91,7 +91,8 @@ TEST_F(VazoesSemanaisTeste, TextoMaiorQueSeuCampoFalhaNaEscrita) {
     Historico vazoes = teste::HistoricoSaoSimao();
     vazoes(2, 3) = 1234567;
     grava(teste::SaoSimao(), vazoes);
-    EXPECT_THROW(arq.geraVazoesSemanais(pastaExecucao(), teste::SaoSimao(), postoBD, progresso), plataforma::ErroVB);
+    EXPECT_THROW(arq.geraVazoesSemanais(pastaExecucao(), teste::SaoSimao(), postoBD, progresso),
+                 plataforma::ErroVB);
 }
 
 TEST_F(VazoesSemanaisTeste, LeOArquivoDouradoEmOutroCaso) {
@@ -119,8 +120,7 @@ TEST_F(VazoesSemanaisTeste, LeOArquivoDouradoEmOutroCaso) {
     // The 53-week station, whose last year stops within its third line; no default names.
     Posto tresMarias;
     tresMarias.Arquivos.CasoUsa53Semanas = 1;
-    ASSERT_TRUE(importa(caminhoDourado(QStringLiteral("tres_marias/TMARIAS.dat")), tresMarias,
-                        true));
+    ASSERT_TRUE(importa(caminhoDourado(QStringLiteral("tres_marias/TMARIAS.dat")), tresMarias, true));
     ASSERT_TRUE(le(156, lido));
     EXPECT_EQ(lido.Nome, QStringLiteral("Três Marias"));
     lido.Arquivos.CasoUsa53Semanas = 1;
@@ -190,18 +190,20 @@ TEST_F(VazoesSemanaisTeste, CodigoDasColunas3A10ENomeSempreTrocado) {
 TEST_F(VazoesSemanaisTeste, CamposEntreZerosEUltimoAnoQueAcabaCedo) {
     // A value without its point reads ten times too large; blank and bare "." read as 0, and so
     // does a negative value, whose sign stands behind the leading zero.
-    const QStringList campos = {QStringLiteral("123"), QStringLiteral("123.5"), QString(), QStringLiteral("."),
-                                QStringLiteral("-7.25."), QStringLiteral("1 2.")};
+    const QStringList campos = {QStringLiteral("123"), QStringLiteral("123.5"),  QString(),
+                                QStringLiteral("."),   QStringLiteral("-7.25."), QStringLiteral("1 2.")};
     const QString linha = linhaDeDados(campos, QStringLiteral("2001"));
     // The last year: a full first line, then a line that stops inside its fourth field.
-    const QString curta = linhaDeDados({QStringLiteral("1."), QStringLiteral("2."), QStringLiteral("3."),
-                                        QStringLiteral("4.")}, QString()).left(29);
+    const QString curta =
+        linhaDeDados({QStringLiteral("1."), QStringLiteral("2."), QStringLiteral("3."), QStringLiteral("4.")},
+                     QString())
+            .left(29);
     // A short sixth line before the last year is not checked: its missing fields are zeros.
     QStringList anterior = anoCompleto(2000);
     anterior[5] = anterior[5].left(17);
     Posto posto;
-    ASSERT_TRUE(importa(arquivoDoPosto(QStringLiteral(" 2000 2001  2500.5."), anterior << linha << curta), posto,
-                        true));
+    ASSERT_TRUE(importa(arquivoDoPosto(QStringLiteral(" 2000 2001  2500.5."), anterior << linha << curta),
+                        posto, true));
     EXPECT_EQ(posto.Area, 2500.5f);
     const Historico vazoes = historico(posto);
     EXPECT_EQ(vazoes(1, 47), 147.f);
@@ -226,7 +228,8 @@ TEST_F(VazoesSemanaisTeste, AnoIncompletoNomeiaALinhaAnterior) {
     erros = QStringLiteral("Dados Gerais");
     Posto posto;
     EXPECT_FALSE(importa(arquivoDoPosto(QStringLiteral(" 1996 2000  900."), dados), posto));
-    EXPECT_EQ(erros, QStringLiteral("Dados Gerais, Vazões Semanais (o ano 1999 está incompleto - linha: 23)"));
+    EXPECT_EQ(erros,
+              QStringLiteral("Dados Gerais, Vazões Semanais (o ano 1999 está incompleto - linha: 23)"));
     EXPECT_EQ(posto.AnoInicial, 1996) << "the header stays in the record";
     esperaNadaGravado();
 
@@ -274,17 +277,19 @@ TEST_F(VazoesSemanaisTeste, SoCabecalhoNaoGravaNada) {
 }
 
 TEST_F(VazoesSemanaisTeste, FormatoIncompativelAvisaUmaVez) {
-    for (const QString& identificacao : {QStringLiteral("       0 Jupiá"), QStringLiteral("      33      "),
-                                         QStringLiteral("ABCDEFGHIJ")}) {
+    for (const QString& identificacao :
+         {QStringLiteral("       0 Jupiá"), QStringLiteral("      33      "), QStringLiteral("ABCDEFGHIJ")}) {
         host.dialogo.limpa();
         progresso.Escondido = 0;
         Posto posto;
-        const QString caminho = arquivo(QStringLiteral("x.dat"), linhas({identificacao, QStringLiteral(" 1 2 3")}));
+        const QString caminho =
+            arquivo(QStringLiteral("x.dat"), linhas({identificacao, QStringLiteral(" 1 2 3")}));
         EXPECT_FALSE(importa(caminho, posto)) << identificacao.toStdString();
         ASSERT_EQ(host.dialogo.Mensagens().size(), 1u);
         const auto& mensagem = host.dialogo.Mensagens()[0];
-        EXPECT_EQ(mensagem.texto,
-                  QStringLiteral("Arquivo com formato incompatível. Verifique se o arquivo selecionado é válido."));
+        EXPECT_EQ(
+            mensagem.texto,
+            QStringLiteral("Arquivo com formato incompatível. Verifique se o arquivo selecionado é válido."));
         EXPECT_EQ(mensagem.titulo, QStringLiteral("Informação"));
         EXPECT_EQ(mensagem.icone, halvo::Icone::Nenhum);
         EXPECT_EQ(mensagem.botoes, halvo::Botoes::Ok);
@@ -304,7 +309,8 @@ TEST_F(VazoesSemanaisTeste, FalhasDeLeituraSoEntramNaLista) {
         {QStringLiteral("99999 2000  10."), umAno},    // a year beyond 16 bits
         {QStringLiteral(" 2000 1998  10."), {}},       // a negative year count
         {QStringLiteral(" 2000 2000 4E+38."), umAno},  // an area beyond a float
-        {QStringLiteral(" 2000 2000  10."), {linhaDeDados({QStringLiteral("9E+99")}, QStringLiteral("2000"))}},
+        {QStringLiteral(" 2000 2000  10."),
+         {linhaDeDados({QStringLiteral("9E+99")}, QStringLiteral("2000"))}},
         {QStringLiteral(" 1999 2000  10."), anoCompleto(1999).mid(0, 3)},  // the file ends in an earlier year
     };
     for (const auto& [periodo, dados] : casos) {
@@ -314,7 +320,8 @@ TEST_F(VazoesSemanaisTeste, FalhasDeLeituraSoEntramNaLista) {
         EXPECT_EQ(erros, QStringLiteral("Vazões Semanais")) << periodo.toStdString();
     }
     erros.clear();
-    EXPECT_FALSE(importa(arquivo(QStringLiteral("so1.dat"), linhas({QStringLiteral("      33 Jupiá")})), posto))
+    EXPECT_FALSE(
+        importa(arquivo(QStringLiteral("so1.dat"), linhas({QStringLiteral("      33 Jupiá")})), posto))
         << "no period line";
     EXPECT_EQ(erros, QStringLiteral("Vazões Semanais"));
     EXPECT_TRUE(host.dialogo.Mensagens().empty());
@@ -327,15 +334,15 @@ TEST_F(VazoesSemanaisTeste, FalhasDeLeituraSoEntramNaLista) {
 
 TEST_F(VazoesSemanaisTeste, FalhaDoBancoNoMeioNaoDeixaMetadeDoPosto) {
     grava(teste::SaoSimao(), teste::HistoricoSaoSimao());
-    bd->BancoDeDados().Execute(QStringLiteral(
-        "CREATE TRIGGER bloqueia BEFORE INSERT ON VazoesSemanais WHEN NEW.Ano = 1997 "
-        "BEGIN SELECT RAISE(ABORT, 'bloqueado'); END"));
+    bd->BancoDeDados().Execute(
+        QStringLiteral("CREATE TRIGGER bloqueia BEFORE INSERT ON VazoesSemanais WHEN NEW.Ano = 1997 "
+                       "BEGIN SELECT RAISE(ABORT, 'bloqueado'); END"));
     Posto posto;
     posto.Codigo = 33;
-    const QString caminho = arquivo(QStringLiteral("outro.dat"),
-                                    linhas(QStringList{QStringLiteral("      33 Novo Nome"),
-                                                       QStringLiteral(" 1996 1997   10.")} +
-                                           anoCompleto(1996) + anoCompleto(1997)));
+    const QString caminho =
+        arquivo(QStringLiteral("outro.dat"),
+                linhas(QStringList{QStringLiteral("      33 Novo Nome"), QStringLiteral(" 1996 1997   10.")} +
+                       anoCompleto(1996) + anoCompleto(1997)));
     EXPECT_FALSE(importa(caminho, posto));
     EXPECT_EQ(erros, QStringLiteral("Vazões Semanais")) << "a store's failure is the file's";
     Posto lido;

@@ -30,7 +30,8 @@ protected:
     }
     // Reads the Vazpast file of posto from the folder of a general data file "SSIMAO.arq".
     bool importa(const QByteArray& bytes, bool soValida = true) {
-        caminho = QFileInfo(arquivo(posto.NomeArqVazpast, bytes)).absolutePath() + QStringLiteral("/SSIMAO.arq");
+        caminho =
+            QFileInfo(arquivo(posto.NomeArqVazpast, bytes)).absolutePath() + QStringLiteral("/SSIMAO.arq");
         return arq.importaVazpast(caminho, posto, postoBD, erros, soValida);
     }
     std::array<double, 4> valores() const {
@@ -43,9 +44,10 @@ protected:
 
 TEST_F(VazpastTeste, GeraODouradoELeDeVolta) {
     ASSERT_TRUE(arq.geraVazpast(pastaExecucao(), teste::SaoSimao()));
-    const QString gerado = pastaExecucao() + QStringLiteral("33") + QDir::separator() + QStringLiteral("Vazpast.dat");
-    EXPECT_EQ(conteudo(gerado), dourado(QStringLiteral("sao_simao/Vazpast.dat")));
-    EXPECT_EQ(conteudo(gerado).mid(6, 26), QByteArray("   33               1523.4")) << "values from column 21";
+    const QString arquivoGerado = gerado(33, QStringLiteral("Vazpast.dat"));
+    EXPECT_EQ(conteudo(arquivoGerado), dourado(QStringLiteral("sao_simao/Vazpast.dat")));
+    EXPECT_EQ(conteudo(arquivoGerado).mid(6, 26), QByteArray("   33               1523.4"))
+        << "values from column 21";
 
     grava(teste::SaoSimao(), teste::HistoricoSaoSimao());
     ASSERT_TRUE(importa(dourado(QStringLiteral("sao_simao/Vazpast.dat")), false));
@@ -65,8 +67,8 @@ TEST_F(VazpastTeste, ZeroEOitoCaracteresCabemNoveNao) {
     escrito.VazpastSemana_3 = 2.5;
     escrito.VazpastSemana_4 = 7;
     ASSERT_TRUE(arq.geraVazpast(pastaExecucao(), escrito));
-    const QString gerado = pastaExecucao() + QStringLiteral("33") + QDir::separator() + QStringLiteral("Vazpast.dat");
-    const QByteArray bytes = conteudo(gerado);
+    const QString arquivoGerado = gerado(33, QStringLiteral("Vazpast.dat"));
+    const QByteArray bytes = conteudo(arquivoGerado);
     EXPECT_EQ(bytes.mid(6 + 20), QByteArray("0.00      12345.67  2.50      7.00      \r\n"));
     ASSERT_TRUE(importa(bytes));
     EXPECT_EQ(valores(), (std::array<double, 4>{0, 12345.67, 2.5, 7}));
@@ -74,7 +76,7 @@ TEST_F(VazpastTeste, ZeroEOitoCaracteresCabemNoveNao) {
     escrito.VazpastSemana_2 = 123456.78;
     ASSERT_TRUE(arq.geraVazpast(pastaExecucao(), escrito));
     posto.VazpastSemana_1 = -1;
-    EXPECT_FALSE(importa(conteudo(gerado)));
+    EXPECT_FALSE(importa(conteudo(arquivoGerado)));
     EXPECT_EQ(erros, QStringLiteral("Vazpasts"));
     EXPECT_EQ(posto.VazpastSemana_1, 0) << "the fields before the bad one stay read";
 }
@@ -101,8 +103,7 @@ TEST_F(VazpastTeste, CabecalhoPorContagemEPrimeiraLinhaDoPosto) {
     // the reader sees its first five digits.
     posto.Codigo = 123456;
     ASSERT_TRUE(arq.geraVazpast(pastaExecucao(), posto));
-    const QByteArray seis =
-        conteudo(pastaExecucao() + QStringLiteral("123456") + QDir::separator() + QStringLiteral("Vazpast.dat"));
+    const QByteArray seis = conteudo(gerado(123456, QStringLiteral("Vazpast.dat")));
     EXPECT_EQ(seis.mid(6, 24), QByteArray("123456") + QByteArray(14, ' ') + "1.00");
     posto.Codigo = 12345;
     ASSERT_TRUE(importa(seis));
@@ -110,8 +111,7 @@ TEST_F(VazpastTeste, CabecalhoPorContagemEPrimeiraLinhaDoPosto) {
 }
 
 TEST_F(VazpastTeste, QualquerSeparadorEmQualquerLocalidade) {
-    const QByteArray bytes =
-        vazpast({linhaDoPosto(QStringLiteral("33"), {"12,5", "1.25", "-3", " 0,75"})});
+    const QByteArray bytes = vazpast({linhaDoPosto(QStringLiteral("33"), {"12,5", "1.25", "-3", " 0,75"})});
     const QLocale antes;
     for (const char* localidade : {"pt_BR", "en_US", "C"}) {
         QLocale::setDefault(QLocale(QString::fromLatin1(localidade)));
@@ -119,8 +119,7 @@ TEST_F(VazpastTeste, QualquerSeparadorEmQualquerLocalidade) {
         EXPECT_EQ(valores(), (std::array<double, 4>{12.5, 1.25, -3, 0.75})) << localidade;
         // The writer's "." whatever the locale.
         ASSERT_TRUE(arq.geraVazpast(pastaExecucao(), posto));
-        EXPECT_EQ(conteudo(pastaExecucao() + QStringLiteral("33") + QDir::separator() + QStringLiteral("Vazpast.dat"))
-                      .mid(6 + 20),
+        EXPECT_EQ(conteudo(gerado(33, QStringLiteral("Vazpast.dat"))).mid(6 + 20),
                   QByteArray("12.50     1.25      -3.00     0.75      \r\n"))
             << localidade;
     }
@@ -137,7 +136,8 @@ TEST_F(VazpastTeste, FalhasEntramNaListaMesmoSemArquivo) {
     for (const QByteArray& defeituoso :
          {vazpast({linhaDoPosto(QStringLiteral("33"), {"1", "", "3", "4"})}),
           vazpast({linhaDoPosto(QStringLiteral("33"), {"1", "2", "3", "4 t/s"})}),
-          vazpast({linhaDoPosto(QStringLiteral("33"), {"1", "1.234.5", "3", "4"})}), QByteArray("\r\n\r\n")}) {
+          vazpast({linhaDoPosto(QStringLiteral("33"), {"1", "1.234.5", "3", "4"})}),
+          QByteArray("\r\n\r\n")}) {
         erros.clear();
         EXPECT_FALSE(importa(defeituoso, false));
         EXPECT_EQ(erros, QStringLiteral("Vazpasts"));
