@@ -1,6 +1,10 @@
 #include "corvalin/frame/Corvalin.h"
 
 #include "corvalin/casedb/casoBD.h"
+#include "corvalin/execution/AssistenteExecucao.h"
+#include "corvalin/execution/ComandosCorvalin.h"
+#include "corvalin/execution/ListaPostos.h"
+#include "corvalin/execution/RegistroTexto.h"
 #include "corvalin/frame/Geral.h"
 #include "corvalin/frame/Mensagens.h"
 #include "halvo/sdk/CamadaAcesso.h"
@@ -12,8 +16,18 @@
 #include "platform/texto/Texto.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTextStream>
 
 #include <array>
+#include <optional>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
 
 namespace corvalin {
 
@@ -56,10 +70,30 @@ QString pComSeparador(const QString& pasta) {
     return pasta.endsWith(QDir::separator()) ? pasta : pasta + QDir::separator();
 }
 
+// The folder of the binary that holds this code: the plug-in's library when the host loaded it.
+QString pPastaDoModulo() {
+    QString caminho;
+#ifdef Q_OS_WIN
+    HMODULE modulo = nullptr;
+    wchar_t nome[MAX_PATH];
+    if (GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                           reinterpret_cast<LPCWSTR>(&pPastaDoModulo), &modulo) &&
+        GetModuleFileNameW(modulo, nome, MAX_PATH) > 0) {
+        caminho = QString::fromWCharArray(nome);
+    }
+#else
+    Dl_info informacao{};
+    if (dladdr(reinterpret_cast<const void*>(&pPastaDoModulo), &informacao) != 0 && informacao.dli_fname) {
+        caminho = QFile::decodeName(informacao.dli_fname);
+    }
+#endif
+    return QDir::toNativeSeparators(QFileInfo(caminho).absolutePath());
+}
+
 }  // namespace
 
 Corvalin::Corvalin(std::unique_ptr<AberturaTelas> telas)
-    : mTelas(std::move(telas)), mVersaoInterface(corvalin::VersaoInterface()) {
+    : mTelas(std::move(telas)), mVersaoInterface(corvalin::VersaoInterface()), mPastaPlugin(pPastaDoModulo()) {
     mObjetos.casoBD = std::make_shared<casoBD>();
     mObjetos.CamadaAcesso = std::make_shared<halvo::CamadaAcesso>();
     halvo::Servicos::halvo().ModeloAtual(CodigoDoModelo);
@@ -160,13 +194,37 @@ std::optional<std::vector<halvo::EntradaTela>> Corvalin::Telas(std::int32_t grup
     return telas;
 }
 
-std::int16_t Corvalin::Executar(std::shared_ptr<halvo::Notificador>) { return 1; }
+// The run of the whole case as the host asks for it: the assistant's screen kept hidden, whose
+// opening already loaded the list before the run loads it again, and the notifier that came
+// with the call.
+std::int16_t Corvalin::Executar(std::shared_ptr<halvo::Notificador> n) {
+    ObjetosCaso objetos = mObjetos;
+    objetos.Notificador = std::move(n);
+    RegistroMemoria oculto;
+    std::optional<RegistroConsole> console;
+    RegistroTexto& registro = mSaidaDaExecucao ? static_cast<RegistroTexto&>(console.emplace(*mSaidaDaExecucao))
+                                               : static_cast<RegistroTexto&>(oculto);
+    ListaPostosMemoria lista;
+    AssistenteExecucao assistente(objetos, mPastaPlugin, lista, registro);
+    assistente.pCarregarPostos();
+    assistente.ExecutarCorvalin();
+    return 1;
+}
 
 std::int16_t Corvalin::Converter(const QVariant&) { return 0; }
 
 std::int16_t Corvalin::Importar(const QVariant&) { return 0; }
 
 std::int16_t Corvalin::Exportar(const QVariant&) { return 0; }
+
+std::vector<halvo::ComandosDoModelo::Comando> Corvalin::Comandos() const { return ComandosCorvalin::Comandos(); }
+
+int Corvalin::Executa(const QString& nome, const QStringList& argumentos, QTextStream& saida, QTextStream& erro) {
+    if (!mObjetos.caso) {
+        throw plataforma::ErroVB::padrao(plataforma::ErroObjetoNaoDefinido);
+    }
+    return ComandosCorvalin(mObjetos, mPastaPlugin, saida, erro).Executa(nome, argumentos);
+}
 
 ObjetosCaso Corvalin::Objetos() const { return mObjetos; }
 

@@ -9,7 +9,8 @@ namespace corvalin {
 
 // The one object that the host makes of this plug-in: who the model is, the life of its cases,
 // its screens and the run of a case. It holds the case's objects and hands them to every screen.
-class Corvalin : public halvo::IModelo {
+// For headless work it offers the host its own commands on the open case.
+class Corvalin : public halvo::IModelo, public halvo::ComandosDoModelo {
 public:
     explicit Corvalin(std::unique_ptr<AberturaTelas> telas = nullptr);
     ~Corvalin() override;
@@ -35,13 +36,21 @@ public:
     std::int16_t Importar(const QVariant& argumento) override;
     std::int16_t Exportar(const QVariant& argumento) override;
 
+    std::vector<Comando> Comandos() const override;
+    int Executa(const QString& nome, const QStringList& argumentos, QTextStream& saida, QTextStream& erro) override;
+    void setSaidaDaExecucao(QTextStream* saida) override { mSaidaDaExecucao = saida; }
+
     // The objects of the open case, as every screen and run receives them.
     ObjetosCaso Objetos() const;
+    // The folder of the plug-in's library, without a trailing separator: the solver lies in it.
+    const QString& PastaPlugin() const { return mPastaPlugin; }
 
 private:
     ObjetosCaso mObjetos;
     std::unique_ptr<AberturaTelas> mTelas;
     QString mVersaoInterface;
+    QString mPastaPlugin;
+    QTextStream* mSaidaDaExecucao = nullptr;
 };
 
 }  // namespace corvalin

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QtPlugin>
 
@@ -10,6 +11,7 @@
 #include <vector>
 
 class QObject;
+class QTextStream;
 
 namespace halvo {
 
@@ -53,6 +55,28 @@ public:
     virtual std::int16_t Converter(const QVariant& argumento) = 0;
     virtual std::int16_t Importar(const QVariant& argumento) = 0;
     virtual std::int16_t Exportar(const QVariant& argumento) = 0;
+};
+
+// What a model may offer beside IModelo for headless work: commands of its own on the open case,
+// which the host's command line lists with its own, and a stream that takes, line by line, what
+// the screen of its run without a screen would have shown. The host finds it by dynamic_cast.
+class ComandosDoModelo {
+public:
+    struct Comando {
+        QString nome;
+        QString uso;  // the arguments after the case folder
+        QString descricao;
+    };
+
+    virtual ~ComandosDoModelo();
+
+    virtual std::vector<Comando> Comandos() const = 0;
+    // Runs a command on the open case with the arguments that follow the case folder; answers the
+    // exit code: 0 success, 1 failure, 2 wrong use.
+    virtual int Executa(const QString& nome, const QStringList& argumentos, QTextStream& saida,
+                        QTextStream& erro) = 0;
+    // Where Executar writes its log from now on; null for nowhere.
+    virtual void setSaidaDaExecucao(QTextStream* saida) = 0;
 };
 
 // What a model's shared library offers the host through QPluginLoader.
