@@ -26,6 +26,10 @@ public:
     // The mean of razaoConjunta over the weeks ahead: the score by which models are compared.
     double indice(const Placar& referencia) const;
 
+    // Takes the week ahead h from another scoreboard, for forecasts whose rule changes with the
+    // week ahead.
+    void adotaSemana(std::size_t h, const Placar& outro) { semanas_[h] = outro.semanas_[h]; }
+
 private:
     struct Somas {
         double erroPercentual = 0.0;

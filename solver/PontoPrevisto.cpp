@@ -33,10 +33,10 @@ double valorPerdaConjunta(std::span<const double> ordenados, double erroRelativo
     }
 }
 
-Trajetoria ResumoCenarios::ponto(double peso) const {
+Trajetoria ResumoCenarios::ponto(const PesosPonto& pesos) const {
     Trajetoria t{};
     for (std::size_t h = 0; h < horizonte; ++h) {
-        t[h] = ponto(h, peso);
+        t[h] = ponto(h, pesos[h]);
     }
     return t;
 }

@@ -65,13 +65,13 @@ PrevisaoEstacao calculaPrevisao(const EntradaEstacao& e) {
         }
     }
     const bool limitaModelo = e.limites && e.dados.flagLimite == limitaModeloEPrevisao;
-    const double peso = p.escolha.getEscolhido().peso;
+    const PesosPonto& pesos = p.escolha.getEscolhido().pesos;
     const ResumoCenarios livre = p.previsor.preve(vazoes, origem, confianca, Simulador::trajetoriasPadrao);
     const ResumoCenarios resumo =
         limitaModelo ? p.previsor.preve(vazoes, origem, confianca, Simulador::trajetoriasPadrao, &faixas)
                      : livre;
-    const Trajetoria semLimites = livre.ponto(peso);
-    p.previsao = resumo.ponto(peso);
+    const Trajetoria semLimites = livre.ponto(pesos);
+    p.previsao = resumo.ponto(pesos);
     p.intervalo = resumo.intervalo;
     for (std::size_t h = 0; h < horizonte; ++h) {
         if (e.limites && !limitaModelo) {

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace solver {
 
@@ -21,14 +22,19 @@ bool pVenceComClareza(const Desempenho& desafiante, const Desempenho& preferido)
     return desafiante.indice + erroPadrao < preferido.indice;
 }
 
-Desempenho pDesempenho(const Placar& placar, const std::vector<Placar>& porAno, const Placar& climatologia) {
+// Over all weeks ahead, or over week ahead h alone.
+Desempenho pDesempenho(const Placar& placar, const std::vector<Placar>& porAno, const Placar& climatologia,
+                       std::optional<std::size_t> h = std::nullopt) {
+    const auto indice = [&](const Placar& p) {
+        return h ? p.razaoConjunta(*h, climatologia) : p.indice(climatologia);
+    };
     Desempenho d;
-    for (std::size_t h = 0; h < horizonte; ++h) {
-        d.semanasVencidas += placar.superaEmAmbas(h, climatologia) ? 1 : 0;
+    for (std::size_t semana = 0; semana < horizonte; ++semana) {
+        d.semanasVencidas += (!h || *h == semana) && placar.superaEmAmbas(semana, climatologia) ? 1 : 0;
     }
-    d.indice = placar.indice(climatologia);
+    d.indice = indice(placar);
     for (const Placar& doAno : porAno) {
-        d.indicePorAno.push_back(doAno.indice(climatologia));
+        d.indicePorAno.push_back(indice(doAno));
     }
     return d;
 }
@@ -52,15 +58,21 @@ int anosDeRetroteste(std::size_t fim, int numSemanas) {
     return std::clamp(anos - minimoAnosAjuste, 0, maximoAnosRetroteste);
 }
 
-Candidato retrotesta(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, double confianca) {
-    const auto numSemanas = static_cast<std::size_t>(serie.getNumSemanas());
-    const auto anos = static_cast<std::size_t>(anosDeRetroteste(fim, serie.getNumSemanas()));
-    Candidato c;
-    c.tipo = tipo;
-    // The forecasts of each weight, over all the back-test and year by year.
+namespace {
+
+// The back-test's forecasts with each weight, over all of it and year by year, and those of
+// climatology on the same weeks.
+struct Medidas {
     std::array<Placar, pesosCandidatos.size()> porPeso;
     std::array<std::vector<Placar>, pesosCandidatos.size()> porPesoEAno;
-    for (auto& porAno : porPesoEAno) {
+    Placar climatologia;
+};
+
+Medidas pMede(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, double confianca) {
+    const auto numSemanas = static_cast<std::size_t>(serie.getNumSemanas());
+    const auto anos = static_cast<std::size_t>(anosDeRetroteste(fim, serie.getNumSemanas()));
+    Medidas m;
+    for (auto& porAno : m.porPesoEAno) {
         porAno.resize(anos);
     }
     for (std::size_t ano = 0; ano < anos; ++ano) {
@@ -75,27 +87,59 @@ Candidato retrotesta(const SerieSemanal& serie, std::size_t fim, TipoTransformac
                     continue;
                 }
                 const double observado = serie.vazao(origem + h);
-                c.climatologia.registra(h, previsor.getClimatologia().previsao(serie.semana(origem + h)),
+                m.climatologia.registra(h, previsor.getClimatologia().previsao(serie.semana(origem + h)),
                                         observado);
                 for (std::size_t i = 0; i < pesosCandidatos.size(); ++i) {
                     const double previsto = resumo.ponto(h, pesosCandidatos[i]);
-                    porPeso[i].registra(h, previsto, observado);
-                    porPeso[i].registraIntervalo(h, resumo.intervalo.inferior[h],
-                                                 resumo.intervalo.superior[h], observado);
-                    porPesoEAno[i][ano].registra(h, previsto, observado);
+                    m.porPeso[i].registra(h, previsto, observado);
+                    m.porPeso[i].registraIntervalo(h, resumo.intervalo.inferior[h],
+                                                   resumo.intervalo.superior[h], observado);
+                    m.porPesoEAno[i][ano].registra(h, previsto, observado);
                 }
             }
         }
     }
-    std::vector<Desempenho> desempenhos;
+    return m;
+}
+
+// The station's weight is the one that does best over all weeks ahead; each week ahead keeps it
+// unless another does clearly better at that week ahead.
+Candidato pEscolhePesos(TipoTransformacao tipo, const Medidas& m) {
+    Candidato c;
+    c.tipo = tipo;
+    c.climatologia = m.climatologia;
+    std::vector<Desempenho> daEstacao;
     for (std::size_t i = 0; i < pesosCandidatos.size(); ++i) {
-        desempenhos.push_back(pDesempenho(porPeso[i], porPesoEAno[i], c.climatologia));
+        daEstacao.push_back(pDesempenho(m.porPeso[i], m.porPesoEAno[i], c.climatologia));
     }
-    const std::size_t escolhido = escolhePreferindoOPrimeiro(desempenhos);
-    c.peso = pesosCandidatos[escolhido];
-    c.placar = porPeso[escolhido];
-    c.desempenho = desempenhos[escolhido];
+    const std::size_t pesoDaEstacao = escolhePreferindoOPrimeiro(daEstacao);
+    std::vector<Placar> escolhidosPorAno(m.porPesoEAno[pesoDaEstacao].size());
+    for (std::size_t h = 0; h < horizonte; ++h) {
+        std::vector<std::size_t> ordem = {pesoDaEstacao};
+        for (std::size_t i = 0; i < pesosCandidatos.size(); ++i) {
+            if (i != pesoDaEstacao) {
+                ordem.push_back(i);
+            }
+        }
+        std::vector<Desempenho> naSemana;
+        for (const std::size_t i : ordem) {
+            naSemana.push_back(pDesempenho(m.porPeso[i], m.porPesoEAno[i], c.climatologia, h));
+        }
+        const std::size_t escolhido = ordem[escolhePreferindoOPrimeiro(naSemana)];
+        c.pesos[h] = pesosCandidatos[escolhido];
+        c.placar.adotaSemana(h, m.porPeso[escolhido]);
+        for (std::size_t ano = 0; ano < escolhidosPorAno.size(); ++ano) {
+            escolhidosPorAno[ano].adotaSemana(h, m.porPesoEAno[escolhido][ano]);
+        }
+    }
+    c.desempenho = pDesempenho(c.placar, escolhidosPorAno, c.climatologia);
     return c;
+}
+
+}  // namespace
+
+Candidato retrotesta(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, double confianca) {
+    return pEscolhePesos(tipo, pMede(serie, fim, tipo, confianca));
 }
 
 Escolha escolheModelo(const SerieSemanal& serie, std::size_t fim, const std::vector<TipoTransformacao>& tipos,

@@ -2,7 +2,7 @@
 
 // Rolling-origin back-test: over each of the last years of the history the model is fitted on the
 // data before that year and forecasts six weeks from every week of it, exactly as the station's
-// forecast is made. It chooses the weight of the point forecast, and the transformation.
+// forecast is made. It chooses the weights of the point forecast, and the transformation.
 
 #include "solver/Placar.h"
 #include "solver/PontoPrevisto.h"
@@ -27,8 +27,8 @@ int anosDeRetroteste(std::size_t fim, int numSemanas);
 // How a forecast did in the back-test against the climatology of the same weeks.
 struct Desempenho {
     int semanasVencidas = 0;  // weeks ahead at which it beat climatology on both measures
-    // MAPE and RMSE against climatology's, summed and averaged over the weeks ahead (2 is as good
-    // as climatology), over the whole back-test and in each of its years.
+    // MAPE and RMSE against climatology's, summed and averaged over the weeks ahead measured (2 is
+    // as good as climatology), over the whole back-test and in each of its years.
     double indice = 0.0;
     std::vector<double> indicePorAno;
 };
@@ -42,14 +42,16 @@ std::size_t escolhePreferindoOPrimeiro(const std::vector<Desempenho>& opcoes);
 
 struct Candidato {
     TipoTransformacao tipo = TipoTransformacao::nenhuma;
-    double peso = 1.0;    // of the point forecast, chosen among pesosCandidatos
+    PesosPonto pesos{};   // of the point forecast, chosen among pesosCandidatos
     Placar placar;        // of the forecasts with that weight, and of the interval
     Placar climatologia;  // of the week's mean over the years before each back-test year
     Desempenho desempenho;
 };
 
-// Back-tests the model with one transformation over the positions [0, fim) and chooses the weight
-// of its point forecast; confianca (0 to 1) is that of the interval whose coverage it measures.
+// Back-tests the model with one transformation over the positions [0, fim) and chooses the
+// weights of its point forecast: the station's, the best over all weeks ahead, and each week
+// ahead's, the station's unless another beats it clearly at that week ahead. confianca (0 to 1)
+// is that of the interval whose coverage it measures.
 Candidato retrotesta(const SerieSemanal& serie, std::size_t fim, TipoTransformacao tipo, double confianca);
 
 struct Escolha {

@@ -54,20 +54,25 @@ void pAcrescentaCandidatos(std::vector<std::string>& r, const PrevisaoEstacao& p
         "Índice: MAPE e RMSE divididos pelos da climatologia (média da semana), somados e tomados em "
         "média nas " +
         std::to_string(horizonte) + " semanas à frente; 2 iguala a climatologia.");
-    std::string cabecalho = aEsquerda("  Transformação", 22) + aDireita("Peso", 6) + aDireita("Índice", 8);
+    std::string cabecalho = aEsquerda("  Transformação", 22) + aDireita("Índice", 8);
     for (int h = 1; h <= horizonte; ++h) {
         cabecalho += aDireita("MAPE " + std::to_string(h), 9);
     }
     r.push_back(cabecalho);
     for (std::size_t i = 0; i < p.escolha.candidatos.size(); ++i) {
         const Candidato& c = p.escolha.candidatos[i];
-        std::string linha = aEsquerda("  " + nomeTransformacao(c.tipo), 22) + numero("%6.2f", c.peso) +
-                            numero("%8.3f", c.desempenho.indice);
+        std::string linha =
+            aEsquerda("  " + nomeTransformacao(c.tipo), 22) + numero("%8.3f", c.desempenho.indice);
         for (std::size_t h = 0; h < horizonte; ++h) {
             linha += numero("%8.2f%%", c.placar.mape(h));
         }
         r.push_back(linha + (i == p.escolha.escolhido ? "  <- escolhido" : ""));
     }
+    std::string pesos = "Pesos da previsão pontual por semana à frente:";
+    for (const double peso : p.escolha.getEscolhido().pesos) {
+        pesos += numero(" %.2f", peso);
+    }
+    r.push_back(pesos);
 }
 
 void pAcrescentaParametros(std::vector<std::string>& r, const PrevisaoEstacao& p) {
@@ -201,17 +206,18 @@ std::vector<std::string> textoBoxCox(const EntradaEstacao& e, const PrevisaoEsta
 }
 
 std::vector<std::string> textoPlanilha(const EntradaEstacao& e, const PrevisaoEstacao& p) {
-    const Placar& placar = p.escolha.getEscolhido().placar;
+    const Candidato& escolhido = p.escolha.getEscolhido();
     std::vector<std::string> r = {
         "Semana\tAno\tPrevisão\tLimite Inferior\tLimite Superior\tMAPE retroteste (%)\tRMSE retroteste\t"
-        "Cobertura retroteste (%)\tLimitada"};
+        "Cobertura retroteste (%)\tPeso do ponto\tLimitada"};
     for (std::size_t h = 0; h < horizonte; ++h) {
         const SemanaAno sa = semanaPrevista(e.dados, h);
-        r.push_back(std::to_string(sa.semana) + "\t" + std::to_string(sa.ano) + "\t" +
-                    numero("%.4g", p.previsao[h]) + "\t" + numero("%.4g", p.intervalo.inferior[h]) + "\t" +
-                    numero("%.4g", p.intervalo.superior[h]) + "\t" + numero("%.2f", placar.mape(h)) + "\t" +
-                    numero("%.4g", placar.rmse(h)) + "\t" + numero("%.1f", placar.cobertura(h)) + "\t" +
-                    (p.limitada[h] ? "sim" : "não"));
+        r.push_back(
+            std::to_string(sa.semana) + "\t" + std::to_string(sa.ano) + "\t" + numero("%.4g", p.previsao[h]) +
+            "\t" + numero("%.4g", p.intervalo.inferior[h]) + "\t" + numero("%.4g", p.intervalo.superior[h]) +
+            "\t" + numero("%.2f", escolhido.placar.mape(h)) + "\t" +
+            numero("%.4g", escolhido.placar.rmse(h)) + "\t" + numero("%.1f", escolhido.placar.cobertura(h)) +
+            "\t" + numero("%.2f", escolhido.pesos[h]) + "\t" + (p.limitada[h] ? "sim" : "não"));
     }
     return r;
 }

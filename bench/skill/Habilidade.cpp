@@ -40,14 +40,14 @@ struct Avaliacao {
         return placar;
     }
 
-    // The solver's forecast with a candidate's transformation and point weight, as the program
+    // The solver's forecast with a candidate's transformation and point weights, as the program
     // makes it at each origin.
     solver::Placar modelo(const solver::Candidato& candidato) const {
         const solver::Previsor previsor(serie, fim, candidato.tipo);
         return mede([&](std::size_t origem, solver::Trajetoria& p, solver::Intervalo& i) {
             const solver::ResumoCenarios resumo = previsor.preve(serie.getVazoes(), origem, confiancaAvaliada,
                                                                  solver::Simulador::trajetoriasPadrao);
-            p = resumo.ponto(candidato.peso);
+            p = resumo.ponto(candidato.pesos);
             i = resumo.intervalo;
         });
     }

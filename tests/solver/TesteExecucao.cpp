@@ -102,7 +102,9 @@ TEST_F(Execucao, SucessoDeixaPrevisaoRelatoriosEVeredito) {
 
     const auto planilha = *solver::leLinhas(pasta() / "1234.exc");
     ASSERT_EQ(planilha.size(), 7u);
-    EXPECT_EQ(std::count(planilha[0].begin(), planilha[0].end(), '\t'), 8);
+    for (const std::string& linha : planilha) {
+        EXPECT_EQ(std::count(linha.begin(), linha.end(), '\t'), 9) << linha;
+    }
     EXPECT_TRUE(planilha[1].starts_with("20\t2000\t"));
 
     const auto aviso = solver::leLinhas(pasta() / "Aviso.txt");

@@ -129,9 +129,9 @@ TEST(Retroteste, EscolheOLogaritmoEmVazoesLogNormaisEBateAClimatologia) {
     EXPECT_EQ(log.desempenho.indicePorAno.size(), static_cast<std::size_t>(solver::maximoAnosRetroteste));
     EXPECT_EQ(log.desempenho.semanasVencidas, solver::horizonte);
     EXPECT_DOUBLE_EQ(log.desempenho.indice, log.placar.indice(log.climatologia));
-    EXPECT_NE(std::find(solver::pesosCandidatos.begin(), solver::pesosCandidatos.end(), log.peso),
-              solver::pesosCandidatos.end());
     for (std::size_t h = 0; h < solver::horizonte; ++h) {
+        EXPECT_NE(std::find(solver::pesosCandidatos.begin(), solver::pesosCandidatos.end(), log.pesos[h]),
+                  solver::pesosCandidatos.end());
         EXPECT_TRUE(log.placar.superaEmAmbas(h, log.climatologia)) << h;
         EXPECT_EQ(log.placar.casos(h), log.climatologia.casos(h));
         // The 95% interval of the process it was built for, from the back-test's few paths.
