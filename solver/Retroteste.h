@@ -43,7 +43,7 @@ std::size_t escolhePreferindoOPrimeiro(const std::vector<Desempenho>& opcoes);
 struct Candidato {
     TipoTransformacao tipo = TipoTransformacao::nenhuma;
     PesosPonto pesos{};   // of the point forecast, chosen among pesosCandidatos
-    Placar placar;        // of the forecasts with that weight, and of the interval
+    Placar placar;        // of the forecasts with those weights, and of the interval
     Placar climatologia;  // of the week's mean over the years before each back-test year
     Desempenho desempenho;
 };

@@ -11,7 +11,7 @@
 #     series, refitted at each origin;
 #   - auto.arima on log flows with Fourier terms of period 52 (non-seasonal ARIMA errors), chosen
 #     once on the fitted years and filtered up to each origin with the same coefficients.
-# Forecasts are back-transformed medians, as the solver's are.
+# Forecasts are back-transformed medians.
 
 suppressPackageStartupMessages(library(forecast))
 
