@@ -1,5 +1,6 @@
 #include "corvalin/frame/AberturaTelasGui.h"
 
+#include "corvalin/execution/FrmExecutar.h"
 #include "corvalin/results/FrmGrafico.h"
 #include "corvalin/results/FrmPrevisoes.h"
 #include "corvalin/results/FrmResultados.h"
@@ -14,17 +15,20 @@ namespace corvalin {
 namespace {
 
 template <class T>
-std::unique_ptr<Tela> pFaz() {
+std::unique_ptr<Tela> pFaz(const QString&) {
     return std::make_unique<T>();
 }
 
+std::unique_ptr<Tela> pFazExecutar(const QString& pastaPlugin) { return std::make_unique<FrmExecutar>(pastaPlugin); }
+
 struct Fabrica {
     const char* nome;
-    std::unique_ptr<Tela> (*faz)();
+    std::unique_ptr<Tela> (*faz)(const QString& pastaPlugin);
 };
 
 // The screens that exist, by their form names.
 constexpr std::array Fabricas{
+    Fabrica{"FrmExecutar", &pFazExecutar},
     Fabrica{"FrmPrevisoes", &pFaz<FrmPrevisoes>},
     Fabrica{"FrmGrafico", &pFaz<FrmGrafico>},
     Fabrica{"FrmResultados", &pFaz<FrmResultados>},
@@ -37,10 +41,10 @@ const halvo::caso& pCaso(const ObjetosCaso& objetos) {
     return *objetos.caso;
 }
 
-std::unique_ptr<Tela> pFazTela(const QString& nome) {
+std::unique_ptr<Tela> pFazTela(const QString& nome, const QString& pastaPlugin) {
     for (const Fabrica& fabrica : Fabricas) {
         if (nome == QLatin1String(fabrica.nome)) {
-            return fabrica.faz();
+            return fabrica.faz(pastaPlugin);
         }
     }
     return nullptr;
@@ -50,7 +54,7 @@ std::unique_ptr<Tela> pFazTela(const QString& nome) {
 
 bool AberturaTelasGui::Abrir(const QString& nome, const ObjetosCaso& objetos, std::int16_t item,
                              std::int32_t grupo, QObject* contexto) {
-    std::unique_ptr<Tela> tela = pFazTela(nome);
+    std::unique_ptr<Tela> tela = pFazTela(nome, mPastaPlugin);
     if (!tela) {
         return false;
     }

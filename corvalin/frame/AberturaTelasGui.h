@@ -11,6 +11,12 @@ class AberturaTelasGui : public AberturaTelas {
 public:
     bool Abrir(const QString& tela, const ObjetosCaso& objetos, std::int16_t item, std::int32_t grupo,
                QObject* contexto) override;
+
+    // The plug-in's folder, where the run assistant finds the solver.
+    void setPastaPlugin(const QString& pasta) { mPastaPlugin = pasta; }
+
+private:
+    QString mPastaPlugin;
 };
 
 }  // namespace corvalin

@@ -6,7 +6,11 @@
 namespace corvalin {
 
 std::unique_ptr<halvo::IModelo> CorvalinPlugin::CriaModelo() {
-    return std::make_unique<Corvalin>(std::make_unique<AberturaTelasGui>());
+    auto telas = std::make_unique<AberturaTelasGui>();
+    AberturaTelasGui& abertura = *telas;
+    auto modelo = std::make_unique<Corvalin>(std::move(telas));
+    abertura.setPastaPlugin(modelo->PastaPlugin());
+    return modelo;
 }
 
 }  // namespace corvalin

@@ -149,6 +149,7 @@ void Tela::closeEvent(QCloseEvent* evento) {
         return;
     }
     pDescarregar();
+    pDescarregarProprios();
     evento->accept();
 }
 

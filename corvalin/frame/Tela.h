@@ -59,6 +59,8 @@ protected:
     virtual void pEsquecerAlteracoes() {}
     // Enter anywhere on the screen.
     virtual void pTeclaEnter() { focusNextChild(); }
+    // Drops what the screen holds of its own, after the frame's objects, when it closes.
+    virtual void pDescarregarProprios() {}
 
     // The save of the write button and of the prompt: nothing when there are no changes; after a
     // successful save the screen is clean and the host hears of the change.
@@ -75,6 +77,7 @@ protected:
     // The title of the messages about missing objects; none on most screens.
     void setTituloVerificacao(const QString& titulo) { mTituloVerificacao = titulo; }
 
+    ObjetosCaso getObjetos() const { return {mCamadaAcesso, mCasoBD, mCaso, mNotificador}; }
     // The case's objects; error 91 while one is not set.
     halvo::caso& getCaso() const;
     corvalin::casoBD& getCasoBD() const;
