@@ -12,6 +12,8 @@
 #include "corvalin/stations/PostoBD.h"
 #include "halvo/sdk/Notificador.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QTextStream>
 
 #include <optional>
@@ -61,9 +63,9 @@ ComandosCorvalin::ComandosCorvalin(ObjetosCaso objetos, QString pastaPlugin, QTe
 std::vector<halvo::ComandosDoModelo::Comando> ComandosCorvalin::Comandos() {
     return {
         {QStringLiteral("importar"), QStringLiteral("ARQUIVO..."),
-         QStringLiteral("importa os postos dos arquivos de Dados Gerais dados")},
+         QStringLiteral("importa os postos a partir dos seus arquivos de Dados Gerais")},
         {QStringLiteral("validar"), QStringLiteral("[CODIGO...]"),
-         QStringLiteral("valida os postos do caso, ou os dados, antes da execução")},
+         QStringLiteral("valida os postos do caso, ou só os dos códigos dados, antes da execução")},
         {QStringLiteral("assistente"), QStringLiteral("[CODIGO...]"),
          QStringLiteral("valida, gera os arquivos e executa os postos, cada um uma vez")},
         {QStringLiteral("previsoes"), QString(), QStringLiteral("mostra as previsões guardadas de cada posto")},
@@ -84,7 +86,12 @@ int ComandosCorvalin::Executa(const QString& nome, const QStringList& argumentos
     return 2;
 }
 
-int ComandosCorvalin::pImportar(const QStringList& arquivos) {
+int ComandosCorvalin::pImportar(const QStringList& nomes) {
+    // Paths as the file dialog gives them: whole, in the platform's form.
+    QStringList arquivos;
+    for (const QString& nome : nomes) {
+        arquivos << QDir::toNativeSeparators(QFileInfo(nome).absoluteFilePath());
+    }
     RegistroMemoria relatorio;
     ProgressoNulo barra;
     StatusConsole status(mSaida);

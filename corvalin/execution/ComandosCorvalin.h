@@ -26,7 +26,7 @@ public:
     int Executa(const QString& nome, const QStringList& argumentos);
 
 private:
-    int pImportar(const QStringList& arquivos);
+    int pImportar(const QStringList& nomes);
     // The validation of the stations given; with executa, the assistant's run after it.
     int pValidarEExecutar(const QStringList& codigos, bool executa);
     int pPrevisoes();

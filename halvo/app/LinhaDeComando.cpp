@@ -7,6 +7,8 @@
 #include "halvo/sdk/IModelo.h"
 #include "platform/runtime/ErroVB.h"
 
+#include <algorithm>
+
 namespace halvo {
 
 LinhaDeComando::LinhaDeComando(const Modelos& modelos, QTextStream& saida, QTextStream& erro)
@@ -25,6 +27,10 @@ LinhaDeComando::LinhaDeComando(const Modelos& modelos, QTextStream& saida, QText
     mComandos[QStringLiteral("apagar")] = {QStringLiteral("apagar PASTA"),
                                            QStringLiteral("apaga a pasta do caso com tudo o que ela contém"), 1,
                                            [this](const QStringList& a) { return pApagar(a[0]); }};
+    mComandos[QStringLiteral("executar")] = {
+        QStringLiteral("executar PASTA"),
+        QStringLiteral("executa o caso como o Halvo o executa, sem tela, e mostra o registro"), 1,
+        [this](const QStringList& a) { return pExecutar(a[0]); }};
 }
 
 int LinhaDeComando::Executa(const QStringList& argumentos) {
@@ -33,12 +39,17 @@ int LinhaDeComando::Executa(const QStringList& argumentos) {
         pAjuda();
         return argumentos.isEmpty() ? 2 : 0;
     }
+    const QStringList resto = argumentos.mid(1);
     const auto comando = mComandos.find(argumentos[0]);
     if (comando == mComandos.end()) {
-        mErro << QStringLiteral("halvo: comando desconhecido: %1 (veja halvo --help)").arg(argumentos[0]) << Qt::endl;
-        return 2;
+        const int codigo = pComandoDoModelo(argumentos[0], resto);
+        if (codigo < 0) {
+            mErro << QStringLiteral("halvo: comando desconhecido: %1 (veja halvo --help)").arg(argumentos[0])
+                  << Qt::endl;
+            return 2;
+        }
+        return codigo;
     }
-    const QStringList resto = argumentos.mid(1);
     const int esperados = comando->second.argumentos;
     if ((esperados >= 0 && resto.size() != esperados) || (esperados < 0 && resto.isEmpty())) {
         mErro << QStringLiteral("halvo: uso: halvo %1").arg(comando->second.uso) << Qt::endl;
@@ -53,7 +64,7 @@ int LinhaDeComando::Executa(const QStringList& argumentos) {
 
 int LinhaDeComando::pAjuda() {
     const auto linha = [this](const QString& uso, const QString& descricao) {
-        mSaida << QStringLiteral("  %1%2").arg(uso, -26).arg(descricao) << Qt::endl;
+        mSaida << QStringLiteral("  %1 %2").arg(uso, -25).arg(descricao) << Qt::endl;
     };
     mSaida << QStringLiteral("uso: halvo [COMANDO [ARGUMENTOS]]") << Qt::endl << Qt::endl
            << QStringLiteral("Sem comando, abre a janela do Halvo.") << Qt::endl << Qt::endl
@@ -62,6 +73,13 @@ int LinhaDeComando::pAjuda() {
     linha(QStringLiteral("janela [PASTA]"), QStringLiteral("abre a janela, com o caso da pasta aberto"));
     for (const auto& [nome, comando] : mComandos) {
         linha(comando.uso, comando.descricao);
+    }
+    const auto modelo = mModelos.Cria();
+    if (const auto* comandos = dynamic_cast<const ComandosDoModelo*>(modelo.get())) {
+        mSaida << Qt::endl << QStringLiteral("Comandos do modelo %1:").arg(modelo->Modelo()) << Qt::endl;
+        for (const auto& comando : comandos->Comandos()) {
+            linha(QStringLiteral("%1 PASTA %2").arg(comando.nome, comando.uso).trimmed(), comando.descricao);
+        }
     }
     mSaida << Qt::endl << QStringLiteral("O código de saída é 0 quando o comando termina bem.") << Qt::endl;
     return 0;
@@ -144,6 +162,53 @@ int LinhaDeComando::pApagar(const QString& pasta) {
     }
     mSaida << QStringLiteral("Caso apagado: %1.").arg(pasta) << Qt::endl;
     return 0;
+}
+
+// The host's road of a run: the model runs the whole case without a screen, and says how it went
+// by its last event.
+int LinhaDeComando::pExecutar(const QString& pasta) {
+    const auto modelo = pModelo();
+    if (auto* comandos = dynamic_cast<ComandosDoModelo*>(modelo.get())) {
+        comandos->setSaidaDaExecucao(&mSaida);
+    }
+    return pNoCaso(*modelo, pasta, [&] {
+        const auto eventos = std::make_shared<NotificadorRegistro>();
+        modelo->Executar(eventos);
+        const bool semErro = !eventos->Eventos().empty() && eventos->Eventos().back() == EventoExecucaoSemErro;
+        return semErro ? 0 : 1;
+    });
+}
+
+int LinhaDeComando::pComandoDoModelo(const QString& nome, const QStringList& argumentos) {
+    const auto modelo = mModelos.Cria();
+    auto* comandos = dynamic_cast<ComandosDoModelo*>(modelo.get());
+    if (comandos == nullptr) {
+        return -1;
+    }
+    const auto lista = comandos->Comandos();
+    const auto comando = std::find_if(lista.begin(), lista.end(), [&](const auto& c) { return c.nome == nome; });
+    if (comando == lista.end()) {
+        return -1;
+    }
+    if (argumentos.isEmpty()) {
+        mErro << QStringLiteral("halvo: uso: halvo %1 PASTA %2").arg(nome, comando->uso).trimmed() << Qt::endl;
+        return 2;
+    }
+    try {
+        return pNoCaso(*modelo, argumentos[0],
+                       [&] { return comandos->Executa(nome, argumentos.mid(1), mSaida, mErro); });
+    } catch (const plataforma::ErroVB& e) {
+        return pFalha(QStringLiteral("erro %1: %2").arg(e.Number()).arg(e.Description()));
+    }
+}
+
+int LinhaDeComando::pNoCaso(IModelo& modelo, const QString& pasta, const std::function<int()>& acao) {
+    if (modelo.AbrirCaso(std::make_shared<CasoPasta>(pasta), std::make_shared<NotificadorRegistro>()) != 1) {
+        return pFalha(QStringLiteral("não foi possível abrir o caso em %1.").arg(pasta));
+    }
+    // Closed however the command ends.
+    const std::unique_ptr<IModelo, void (*)(IModelo*)> fecha(&modelo, [](IModelo* m) { m->FecharCaso(); });
+    return acao();
 }
 
 int LinhaDeComando::pFalha(const QString& mensagem) {

@@ -2,7 +2,6 @@
 
 #include "corvalin/stations/Historico.h"
 #include "halvo/sdk/CamadaAcesso.h"
-#include "platform/texto/ArquivoTexto.h"
 
 #include <QDir>
 #include <QFile>
@@ -104,26 +103,6 @@ QStringList CasoExecucao::textosDoRegistro() const {
         textos << linha.texto;
     }
     return textos;
-}
-
-QStringList LinhasDe(const QString& caminho) {
-    QStringList linhas;
-    if (!QFile::exists(caminho)) {
-        return linhas;
-    }
-    texto::ArquivoEntrada entrada(caminho);
-    while (!entrada.Eof()) {
-        linhas << entrada.LineInput();
-    }
-    return linhas;
-}
-
-void Grava(const QString& caminho, const QStringList& linhas) {
-    texto::ArquivoSaida saida(caminho);
-    for (const QString& linha : linhas) {
-        saida.Print(linha);
-    }
-    saida.Close();
 }
 
 }  // namespace teste

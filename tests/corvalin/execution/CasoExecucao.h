@@ -8,6 +8,7 @@
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
 #include "halvo/sdk/NotificadorRegistro.h"
+#include "tests/corvalin/execution/ArquivosTeste.h"
 #include "tests/doubles/HostTeste.h"
 
 #include <QStringList>
@@ -15,10 +16,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <ostream>
-
-// Readable texts in the failures of the tests.
-inline void PrintTo(const QString& texto, std::ostream* saida) { *saida << '"' << texto.toStdString() << '"'; }
 
 namespace teste {
 
@@ -63,9 +60,5 @@ protected:
 private:
     std::unique_ptr<corvalin::AssistenteExecucao> mAssistente;
 };
-
-// Text files, for the tests' comparisons.
-QStringList LinhasDe(const QString& caminho);
-void Grava(const QString& caminho, const QStringList& linhas);
 
 }  // namespace teste

@@ -1,0 +1,168 @@
+#include "corvalin/casedb/casoBD.h"
+#include "platform/recordstore/Recordstore.h"
+#include "tests/doubles/HostTeste.h"
+#include "tests/e2e/Instalacao.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include <iostream>
+#include <map>
+#include <random>
+#include <set>
+
+namespace teste {
+namespace {
+
+constexpr int Postos = 50;
+constexpr int Interrupcoes = 100;
+constexpr int PrimeiroCodigo = 1000;
+
+// Fifty stations from the files of one in the tests' data, each with its own code and name.
+QStringList pGeraArquivos(const QString& pasta) {
+    const QStringList dadosGerais = LinhasDe(DadoDeTeste(QStringLiteral("execucao/101.arq")));
+    const QStringList vazoes = LinhasDe(DadoDeTeste(QStringLiteral("execucao/101.dat")));
+    QStringList arquivos;
+    for (int codigo = PrimeiroCodigo; codigo < PrimeiroCodigo + Postos; ++codigo) {
+        const QString base = QString::number(codigo);
+        QStringList dg = dadosGerais;
+        dg[0] = base + QStringLiteral(".rel");
+        dg[2] = base + QStringLiteral(".dat");
+        dg[5] = base + QStringLiteral(".prv");
+        dg[6] = base + QStringLiteral(".exc");
+        dg[13] = base;
+        QStringList vz = vazoes;
+        vz[0] = base.rightJustified(8) + u' ' + QStringLiteral("Posto %1").arg(codigo).leftJustified(60);
+        Grava(pasta + u'/' + base + QStringLiteral(".dat"), vz);
+        arquivos << pasta + u'/' + base + QStringLiteral(".arq");
+        Grava(arquivos.last(), dg);
+    }
+    return arquivos;
+}
+
+// The codes that stand in a table, with their rows.
+std::map<int, int> pLinhasPorCodigo(recordstore::Database& bd, const QString& tabela) {
+    std::map<int, int> linhas;
+    const auto rs = bd.OpenRecordset(tabela);
+    for (; !rs->Eof(); rs->MoveNext()) {
+        ++linhas[static_cast<int>(rs->campo(QStringLiteral("CodigoDoPosto")).paraInteiro())];
+    }
+    return linhas;
+}
+
+// Opens the case as the plug-in does and checks that every station in it is whole: catalogue,
+// both general data rows and the whole history, or nothing at all. Answers how many are whole.
+int pPostosInteiros(const QString& caso, int linhasDeHistorico) {
+    auto bd = std::make_shared<corvalin::casoBD>();
+    EXPECT_TRUE(bd->Abrir(CasoTeste(caso), true, true)) << caso.toStdString();
+    recordstore::Database& banco = bd->BancoDeDados();
+    const auto catalogo = pLinhasPorCodigo(banco, QStringLiteral("Postos"));
+    const auto dados = pLinhasPorCodigo(banco, QStringLiteral("DadosGerais"));
+    const auto complemento = pLinhasPorCodigo(banco, QStringLiteral("DadosGeraisComplemento"));
+    const auto historico = pLinhasPorCodigo(banco, QStringLiteral("VazoesSemanais"));
+    std::set<int> codigos;
+    for (const auto* tabela : {&catalogo, &dados, &complemento, &historico}) {
+        for (const auto& [codigo, n] : *tabela) {
+            codigos.insert(codigo);
+        }
+    }
+    for (const int codigo : codigos) {
+        EXPECT_EQ(catalogo.count(codigo), 1u) << "station " << codigo << " has no catalogue row";
+        EXPECT_EQ(dados.count(codigo), 1u) << "station " << codigo << " has no general data";
+        EXPECT_EQ(complemento.count(codigo), 1u) << "station " << codigo << " has no complement";
+        EXPECT_EQ(historico.count(codigo) ? historico.at(codigo) : 0, linhasDeHistorico)
+            << "station " << codigo << " has a partial history";
+    }
+    bd->Fechar();
+    return static_cast<int>(codigos.size());
+}
+
+class Interrupcao : public ::testing::Test {
+protected:
+    void SetUp() override {
+        QDir().mkpath(host.caminho(QStringLiteral("arquivos")));
+        arquivos = pGeraArquivos(host.caminho(QStringLiteral("arquivos")));
+        // An empty case, copied for every import.
+        modelo = host.caminho(QStringLiteral("modelo"));
+        ASSERT_EQ(Executa(Instalacao::teste().halvo(), {QStringLiteral("criar"), modelo}).codigo, 0);
+    }
+
+    QString novoCaso(int n) const {
+        const QString caso = host.caminho(QStringLiteral("caso%1").arg(n));
+        QDir().mkpath(caso);
+        QFile::copy(modelo + QStringLiteral("/Corvalin.mdb"), caso + QStringLiteral("/Corvalin.mdb"));
+        return caso;
+    }
+
+    void inicia(QProcess& processo, const QString& caso) const {
+        processo.start(Instalacao::teste().halvo(), QStringList{QStringLiteral("importar"), caso} + arquivos);
+        ASSERT_TRUE(processo.waitForStarted());
+    }
+
+    HostTeste host;
+    QStringList arquivos;
+    QString modelo;
+};
+
+// The history of every station: 24 full years and 30 weeks of the last.
+constexpr int LinhasDeHistorico = 24 * 52 + 30;
+
+TEST_F(Interrupcao, AKilledImportLeavesEveryStationWholeOrAbsent) {
+    // A whole import, to know how long one takes.
+    QElapsedTimer relogio;
+    relogio.start();
+    const QString inteiro = novoCaso(0);
+    QProcess completo;
+    inicia(completo, inteiro);
+    ASSERT_TRUE(completo.waitForFinished(120000));
+    const qint64 duracao = relogio.elapsed();
+    ASSERT_EQ(completo.exitCode(), 0);
+    ASSERT_EQ(pPostosInteiros(inteiro, LinhasDeHistorico), Postos);
+
+    std::mt19937 sorteio(20261122);
+    std::uniform_int_distribution<qint64> momento(0, duracao);
+    int vazios = 0;
+    int parciais = 0;
+    int completos = 0;
+    relogio.restart();
+    for (int n = 1; n <= Interrupcoes; ++n) {
+        const QString caso = novoCaso(n);
+        QProcess processo;
+        inicia(processo, caso);
+        QThread::msleep(static_cast<unsigned long>(momento(sorteio)));
+        processo.kill();  // SIGKILL
+        processo.waitForFinished();
+        const int postos = pPostosInteiros(caso, LinhasDeHistorico);
+        (postos == 0 ? vazios : postos == Postos ? completos : parciais) += 1;
+        QDir(caso).removeRecursively();
+    }
+    std::cout << "Import of " << Postos << " stations: " << duracao << " ms. " << Interrupcoes << " kills in "
+              << relogio.elapsed() << " ms: " << vazios << " before the first station, " << parciais
+              << " half-way, " << completos << " after the last." << std::endl;
+    EXPECT_GT(parciais, Interrupcoes / 4) << "the kills should mostly fall inside the import";
+}
+
+TEST_F(Interrupcao, AReaderWaitsForTheImportRatherThanFailing) {
+    const QString caso = novoCaso(1);
+    QProcess importacao;
+    inicia(importacao, caso);
+    // Until the import is under way.
+    QByteArray lido;
+    while (!lido.contains("Arquivo 5 de") && importacao.waitForReadyRead(30000)) {
+        lido += importacao.readAllStandardOutput();
+    }
+    const Saida leitura = Executa(Instalacao::teste().halvo(), {QStringLiteral("previsoes"), caso});
+    EXPECT_EQ(leitura.codigo, 0) << leitura.erro.toStdString();
+    EXPECT_TRUE(leitura.saida.startsWith(QStringLiteral("Posto 1000 - Posto 1000"))) << leitura.saida.toStdString();
+    ASSERT_TRUE(importacao.waitForFinished(120000));
+    EXPECT_EQ(importacao.exitCode(), 0);
+    EXPECT_EQ(pPostosInteiros(caso, LinhasDeHistorico), Postos);
+}
+
+}  // namespace
+}  // namespace teste
