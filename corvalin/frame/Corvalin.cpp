@@ -21,7 +21,6 @@
 #include <QTextStream>
 
 #include <array>
-#include <optional>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -200,14 +199,19 @@ std::optional<std::vector<halvo::EntradaTela>> Corvalin::Telas(std::int32_t grup
 std::int16_t Corvalin::Executar(std::shared_ptr<halvo::Notificador> n) {
     ObjetosCaso objetos = mObjetos;
     objetos.Notificador = std::move(n);
-    RegistroMemoria oculto;
-    std::optional<RegistroConsole> console;
-    RegistroTexto& registro = mSaidaDaExecucao ? static_cast<RegistroTexto&>(console.emplace(*mSaidaDaExecucao))
-                                               : static_cast<RegistroTexto&>(oculto);
-    ListaPostosMemoria lista;
-    AssistenteExecucao assistente(objetos, mPastaPlugin, lista, registro);
-    assistente.pCarregarPostos();
-    assistente.ExecutarCorvalin();
+    const auto executa = [&](RegistroTexto& registro) {
+        ListaPostosMemoria lista;
+        AssistenteExecucao assistente(objetos, mPastaPlugin, lista, registro);
+        assistente.pCarregarPostos();
+        assistente.ExecutarCorvalin();
+    };
+    if (mSaidaDaExecucao) {
+        RegistroConsole console(*mSaidaDaExecucao);
+        executa(console);
+    } else {
+        RegistroMemoria oculto;
+        executa(oculto);
+    }
     return 1;
 }
 

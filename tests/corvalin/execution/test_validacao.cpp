@@ -76,8 +76,10 @@ TEST_F(Validacao, OnlyCheckedRowsAreValidatedAndAWarningAloneLetsTheRunStart) {
     semDados.AnoInicial = 1990;
     semDados.AnoFinal = 2009;
     grava(semDados);
-    assistente().pCarregarPostos();
+    EXPECT_TRUE(assistente().pCarregarPostos());
+    EXPECT_EQ(lista.LinhaAtual(), 0);
     EXPECT_EQ(lista.Texto(1), QStringLiteral("20 - Beta - com hífen"));
+    EXPECT_EQ(corvalin::CodigoDaLinha(lista.Texto(1)), 20);
 
     lista.setMarcada(1, false);
     EXPECT_TRUE(assistente().pValidar());
@@ -92,6 +94,12 @@ TEST_F(Validacao, OnlyCheckedRowsAreValidatedAndAWarningAloneLetsTheRunStart) {
                                                 msgDadosGeraisNaoDefinidos, QStringLiteral(" "), QStringLiteral(" ")));
     EXPECT_EQ(assistente().getLblExecutarAlertas(), QStringLiteral("0 avisos"));
     EXPECT_EQ(assistente().getLblExecutarProblemas(), QStringLiteral("1 erro"));
+}
+
+TEST_F(Validacao, AnEmptyCatalogueGivesNothingToGoOnWith) {
+    EXPECT_FALSE(assistente().pCarregarPostos());
+    EXPECT_EQ(lista.Quantidade(), 0);
+    EXPECT_EQ(lista.LinhaAtual(), -1);
 }
 
 TEST_F(Validacao, RulesAtTheirBounds) {
