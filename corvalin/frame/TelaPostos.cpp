@@ -48,7 +48,9 @@ TelaPostos::TelaPostos(const QString& nome, const QString& palavra, const QStrin
     mCBD->setObjectName(QStringLiteral("CBD%1").arg(palavra));
     mLblCodigo->setBuddy(mTxtCodigo);
     mLblNome->setBuddy(mCBD);
-    mTxtCodigo->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 12);
+    const int largura = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    mTxtCodigo->setMinimumWidth(largura * 8);
+    mTxtCodigo->setMaximumWidth(largura * 12);
     if (gravacao == Gravacao::Com) {
         mBotGravar = pBotao(*this, QStringLiteral("Bot%1Gravar").arg(palavra), QStringLiteral("&Gravar"));
         pRegistraGravacao(*mBotGravar);

@@ -14,6 +14,7 @@
 #include <QLineSeries>
 #include <QValueAxis>
 
+#include <algorithm>
 #include <array>
 
 namespace corvalin {
@@ -25,12 +26,9 @@ constexpr int SemanasAnteriores = 6;
 constexpr int SemanasVazpast = 4;
 constexpr int AvancoVazpast = 2;
 
-QLineSeries* pSerie(QChart& grafico, const QString& nome, QAbstractAxis& x, QAbstractAxis& y) {
-    auto* serie = new QLineSeries;
+QLineSeries* pSerie(QChart& grafico, const QString& nome) {
+    auto* serie = new QLineSeries(&grafico);
     serie->setName(nome);
-    grafico.addSeries(serie);
-    serie->attachAxis(&x);
-    serie->attachAxis(&y);
     return serie;
 }
 
@@ -75,6 +73,7 @@ void FrmGrafico::pAjustarGrafico() {
     mGrafico->setDropShadowEnabled(false);
 
     mVazoes->setGridLinePen(QPen(QColor(255, 255, 255), 1, Qt::DotLine));
+    mGrafico->setLocalizeNumbers(true);
     pEsvaziar();
     mVazoes->setTitleText(Mensagens::msgVazao);
     mSemanas->setTitleText(Mensagens::msgSemana);
@@ -121,11 +120,11 @@ void FrmGrafico::pPreencherGrafico(const Posto& posto) {
 
     // Each line is drawn where it has data: the verified flows up to row n, the forecast and its
     // limits from the last verified point on.
-    QLineSeries* verificadas = pSerie(*mGrafico, Mensagens::msgVazoesVerificadas, *mSemanas, *mVazoes);
+    QLineSeries* verificadas = pSerie(*mGrafico, Mensagens::msgVazoesVerificadas);
     const std::array<QLineSeries*, 3> futuras{
-        pSerie(*mGrafico, Mensagens::msgVazoesPrevistas, *mSemanas, *mVazoes),
-        pSerie(*mGrafico, Mensagens::msgLimiteInferior, *mSemanas, *mVazoes),
-        pSerie(*mGrafico, Mensagens::msgLimiteSuperior, *mSemanas, *mVazoes),
+        pSerie(*mGrafico, Mensagens::msgVazoesPrevistas),
+        pSerie(*mGrafico, Mensagens::msgLimiteInferior),
+        pSerie(*mGrafico, Mensagens::msgLimiteSuperior),
     };
     for (int i = 1; i <= n; ++i) {
         pProximaSemana();
@@ -141,6 +140,19 @@ void FrmGrafico::pPreencherGrafico(const Posto& posto) {
         futuras[2]->append(n - 1 + j, limiteSuperior[j]);
     }
     mSemanas->append(rotulos);
+    double menor = passadas[n];
+    double maior = menor;
+    for (QLineSeries* serie : {verificadas, futuras[0], futuras[1], futuras[2]}) {
+        mGrafico->addSeries(serie);
+        serie->attachAxis(mSemanas);
+        serie->attachAxis(mVazoes);
+        for (const QPointF& ponto : serie->points()) {
+            menor = std::min(menor, ponto.y());
+            maior = std::max(maior, ponto.y());
+        }
+    }
+    // An axis keeps its range when series come to it: the scale follows the data here.
+    mVazoes->setRange(menor, maior);
     mVazoes->applyNiceNumbers();
 }
 

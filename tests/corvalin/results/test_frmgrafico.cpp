@@ -42,6 +42,19 @@ QList<QPointF> pontos(const QWidget& tela, const QString& serie) {
     return {};
 }
 
+// Every point of every line within the scale of the flows.
+bool tudoNaEscala(const QWidget& tela) {
+    const auto* vazoes = qobject_cast<QValueAxis*>(grafico(tela).axes(Qt::Vertical).front());
+    for (QAbstractSeries* serie : grafico(tela).series()) {
+        for (const QPointF& ponto : qobject_cast<QLineSeries*>(serie)->points()) {
+            if (ponto.y() < vazoes->min() || ponto.y() > vazoes->max()) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 void proximo(const QWidget& tela) { controle<QPushButton>(tela, QStringLiteral("BotGraficoNavegacao_2")).click(); }
 
 }  // namespace
@@ -101,12 +114,14 @@ private slots:
         QCOMPARE(previstas.back(), QPointF(11, 105));
         QCOMPARE(pontos(*tela, QStringLiteral("Limite Inferior")).front(), verificadas.back());
         QCOMPARE(pontos(*tela, QStringLiteral("Limite Superior")).back(), QPointF(11, 105 * 1.1F));
+        QVERIFY(tudoNaEscala(*tela));
 
         proximo(*tela);
         QCOMPARE(rotulosDoGrafico(*tela), rotulos({51, 52, 1, 2, 3, 4, 5, 6, 7, 8}));
         QCOMPARE(pontos(*tela, QStringLiteral("Vazões Verificadas")),
                  (QList<QPointF>{{0, 14}, {1, 13}, {2, 12}, {3, 11}}));
         QCOMPARE(pontos(*tela, QStringLiteral("Vazões Previstas")).front(), QPointF(3, 11));
+        QVERIFY(tudoNaEscala(*tela));
 
         proximo(*tela);
         QCOMPARE(rotulosDoGrafico(*tela).mid(0, 7), rotulos({52, 1, 2, 3, 4, 5, 6}));
