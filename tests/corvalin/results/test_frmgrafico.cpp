@@ -63,23 +63,6 @@ class TesteFrmGrafico : public QObject {
     Q_OBJECT
 
 private slots:
-    // The chart's look, set once: the legend at the bottom, the two axis titles, the backdrop
-    // from grey to white.
-    void aparencia() {
-        teste::CasoDeTelas caso;
-        auto tela = teste::carrega<corvalin::FrmGrafico>(caso);
-        QChart& g = grafico(*tela);
-        QCOMPARE(g.legend()->alignment(), Qt::AlignBottom);
-        QVERIFY(g.legend()->isVisible());
-        QCOMPARE(g.axes(Qt::Vertical).front()->titleText(), QStringLiteral("Vazão"));
-        QCOMPARE(g.axes(Qt::Horizontal).front()->titleText(), QStringLiteral("Semana"));
-        const QGradient* fundo = g.backgroundBrush().gradient();
-        QVERIFY(fundo != nullptr);
-        QCOMPARE(fundo->stops().front().second, QColor(210, 210, 206));
-        QCOMPARE(fundo->stops().back().second, QColor(255, 255, 255));
-        QVERIFY(g.series().isEmpty());
-    }
-
     void semanasEValores() {
         teste::CasoDeTelas caso;
         // A: forecast from week 3 of 2009, six weeks of history before it.
