@@ -162,7 +162,9 @@ void FrmExecutar::pAvancar() {
     }
 }
 
-void FrmExecutar::pVoltar() { pMostrarPasso(mRtfExecutar->isVisibleTo(this) ? 1 : 2); }
+void FrmExecutar::pVoltar() {
+    pMostrarPasso(mRtfExecutar->isVisibleTo(this) ? 1 : 2);
+}
 
 // Whatever becomes of the run, the form is left with "Fechar" alone.
 void FrmExecutar::pExecutar() {
@@ -178,11 +180,17 @@ void FrmExecutar::pExecutar() {
     mBotCancela->setEnabled(true);
 }
 
-int FrmExecutar::ListaDaTela::Quantidade() const { return mLista.count(); }
+int FrmExecutar::ListaDaTela::Quantidade() const {
+    return mLista.count();
+}
 
-QString FrmExecutar::ListaDaTela::Texto(int linha) const { return pItem(mLista, linha).text(); }
+QString FrmExecutar::ListaDaTela::Texto(int linha) const {
+    return pItem(mLista, linha).text();
+}
 
-bool FrmExecutar::ListaDaTela::Marcada(int linha) const { return pItem(mLista, linha).checkState() == Qt::Checked; }
+bool FrmExecutar::ListaDaTela::Marcada(int linha) const {
+    return pItem(mLista, linha).checkState() == Qt::Checked;
+}
 
 void FrmExecutar::ListaDaTela::setMarcada(int linha, bool marcada) {
     pItem(mLista, linha).setCheckState(marcada ? Qt::Checked : Qt::Unchecked);
@@ -194,14 +202,17 @@ void FrmExecutar::ListaDaTela::Adiciona(const QString& texto) {
     item->setCheckState(Qt::Unchecked);
 }
 
-void FrmExecutar::ListaDaTela::setLinhaAtual(int linha) { mLista.setCurrentRow(linha); }
+void FrmExecutar::ListaDaTela::setLinhaAtual(int linha) {
+    mLista.setCurrentRow(linha);
+}
 
 void FrmExecutar::RegistroDaTela::Limpa() {
     mTexto.Limpa();
     mAoLimpar();
 }
 
-void FrmExecutar::RegistroDaTela::AdicionaLinha(const QString& texto, int estilo, bool destaque, bool quebraLinha) {
+void FrmExecutar::RegistroDaTela::AdicionaLinha(const QString& texto, int estilo, bool destaque,
+                                                bool quebraLinha) {
     mTexto.AdicionaLinha(texto, estilo, destaque, quebraLinha);
 }
 
@@ -215,8 +226,12 @@ void FrmExecutar::JanelaDaBarra::Mostra() {
     formulario.Atualizar();
 }
 
-void FrmExecutar::JanelaDaBarra::Esconde() { FrmBarraDeProgresso::Descarregar(); }
+void FrmExecutar::JanelaDaBarra::Esconde() {
+    FrmBarraDeProgresso::Descarregar();
+}
 
-Progresso& FrmExecutar::JanelaDaBarra::Barra() { return FrmBarraDeProgresso::Instancia().Barra(); }
+Progresso& FrmExecutar::JanelaDaBarra::Barra() {
+    return FrmBarraDeProgresso::Instancia().Barra();
+}
 
 }  // namespace corvalin

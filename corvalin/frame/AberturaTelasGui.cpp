@@ -19,7 +19,9 @@ std::unique_ptr<Tela> pFaz(const QString&) {
     return std::make_unique<T>();
 }
 
-std::unique_ptr<Tela> pFazExecutar(const QString& pastaPlugin) { return std::make_unique<FrmExecutar>(pastaPlugin); }
+std::unique_ptr<Tela> pFazExecutar(const QString& pastaPlugin) {
+    return std::make_unique<FrmExecutar>(pastaPlugin);
+}
 
 struct Fabrica {
     const char* nome;
@@ -64,8 +66,8 @@ bool AberturaTelasGui::Abrir(const QString& nome, const ObjetosCaso& objetos, st
         auto& sistema = halvo::Servicos::sistema();
         sistema.JanelaFilha(tela.get(), contexto);
         const halvo::caso& caso = pCaso(objetos);
-        sistema.JanelaRegistra(tela.get(), caso.Item(QStringLiteral("estudo")), caso.Item(QStringLiteral("codigo")),
-                               grupo, item);
+        sistema.JanelaRegistra(tela.get(), caso.Item(QStringLiteral("estudo")),
+                               caso.Item(QStringLiteral("codigo")), grupo, item);
         tela->setWindowTitle(tela->windowTitle() + QStringLiteral(" (") + caso.Item(QStringLiteral("nome")) +
                              QLatin1Char(')'));
     } catch (const plataforma::ErroVB& erro) {

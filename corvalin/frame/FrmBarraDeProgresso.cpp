@@ -21,7 +21,8 @@ std::unique_ptr<FrmBarraDeProgresso>& pInstancia() {
 }  // namespace
 
 FrmBarraDeProgresso::FrmBarraDeProgresso()
-    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint), mBarra(new QProgressBar(this)) {
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
+      mBarra(new QProgressBar(this)) {
     setObjectName(QStringLiteral("FrmBarraDeProgresso"));
     mBarra->setObjectName(QStringLiteral("PrgBarraDeProgresso"));
     mBarra->setRange(0, 100);
@@ -47,7 +48,9 @@ FrmBarraDeProgresso& FrmBarraDeProgresso::Instancia() {
     return *instancia;
 }
 
-void FrmBarraDeProgresso::Descarregar() { pInstancia().reset(); }
+void FrmBarraDeProgresso::Descarregar() {
+    pInstancia().reset();
+}
 
 void FrmBarraDeProgresso::Atualizar() {
     repaint();

@@ -31,7 +31,9 @@ Tela::Tela(const QString& nome, const QString& titulo, QWidget* pai) : QWidget(p
     setWindowTitle(titulo);
 }
 
-Tela::~Tela() { pDescarregar(); }
+Tela::~Tela() {
+    pDescarregar();
+}
 
 void Tela::setObjetos(const ObjetosCaso& objetos) {
     setCamadaAcesso(objetos.CamadaAcesso);
@@ -82,8 +84,9 @@ bool Tela::pConfirma() {
     if (!pHaAlteracoes()) {
         return true;
     }
-    switch (halvo::Servicos::dialogo().Mensagem(Mensagens::msgGravarAlteracoes, Mensagens::msgTituloConfirmacao,
-                                                halvo::Icone::Pergunta, halvo::Botoes::SimNaoCancelar)) {
+    switch (halvo::Servicos::dialogo().Mensagem(Mensagens::msgGravarAlteracoes,
+                                                Mensagens::msgTituloConfirmacao, halvo::Icone::Pergunta,
+                                                halvo::Botoes::SimNaoCancelar)) {
         case halvo::Resposta::Sim:
             return pGravarConfirmado();
         case halvo::Resposta::Nao:
@@ -105,13 +108,21 @@ bool Tela::pMarcaAlterado() {
     return true;
 }
 
-halvo::caso& Tela::getCaso() const { return pObjeto(mCaso); }
+halvo::caso& Tela::getCaso() const {
+    return pObjeto(mCaso);
+}
 
-corvalin::casoBD& Tela::getCasoBD() const { return pObjeto(mCasoBD); }
+corvalin::casoBD& Tela::getCasoBD() const {
+    return pObjeto(mCasoBD);
+}
 
-bool Tela::SomenteLeitura() const { return getCaso().SomenteLeitura(); }
+bool Tela::SomenteLeitura() const {
+    return getCaso().SomenteLeitura();
+}
 
-void Tela::Notifica(std::int32_t evento) { pObjeto(mNotificador).Notifica(getCaso(), evento); }
+void Tela::Notifica(std::int32_t evento) {
+    pObjeto(mNotificador).Notifica(getCaso(), evento);
+}
 
 PostoBD& Tela::postoBD() {
     if (!mPostoBD) {

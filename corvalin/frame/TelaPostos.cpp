@@ -21,8 +21,8 @@ constexpr int TamanhoMaximoNome = 60;
 
 // The four steps in the order of their buttons, and the icons that show them.
 constexpr std::array<ModoBusca, 4> ModosNavegacao{BuscaPrimeiro, BuscaAnterior, BuscaProximo, BuscaUltimo};
-constexpr std::array<QStyle::StandardPixmap, 4> IconesNavegacao{QStyle::SP_MediaSkipBackward, QStyle::SP_ArrowLeft,
-                                                                QStyle::SP_ArrowRight, QStyle::SP_MediaSkipForward};
+constexpr std::array<QStyle::StandardPixmap, 4> IconesNavegacao{
+    QStyle::SP_MediaSkipBackward, QStyle::SP_ArrowLeft, QStyle::SP_ArrowRight, QStyle::SP_MediaSkipForward};
 
 QPushButton* pBotao(QWidget& pai, const QString& nome, const QString& texto) {
     auto* botao = new QPushButton(texto, &pai);
@@ -77,7 +77,8 @@ void TelaPostos::pMontaTela(QWidget& corpo, std::initializer_list<QPushButton*> 
         mNavegacao[i] = botao;
     }
     rodape->addStretch(1);
-    mBotSair = pBotao(*this, QStringLiteral("Bot%1Sair").arg(mPalavra), QStringLiteral("&") + Mensagens::msgFechar);
+    mBotSair =
+        pBotao(*this, QStringLiteral("Bot%1Sair").arg(mPalavra), QStringLiteral("&") + Mensagens::msgFechar);
     connect(mBotSair, &QPushButton::clicked, this, &QWidget::close);
 
     QWidget* anterior = mNavegacao.back();
@@ -146,8 +147,8 @@ void TelaPostos::pNavegacao(int indice) {
         const ModoBusca modo = ModosNavegacao[static_cast<std::size_t>(indice)];
         const std::int32_t codigo = pCodigoNaTela();
         Posto posto;
-        const bool achou = postoBD().getPosto(posto, modo,
-                                              modo == BuscaAnterior || modo == BuscaProximo ? codigo : 0, IndiceNome);
+        const bool achou = postoBD().getPosto(
+            posto, modo, modo == BuscaAnterior || modo == BuscaProximo ? codigo : 0, IndiceNome);
         pExibir(achou, posto);
         if (achou) {
             pNavegou(posto);

@@ -35,8 +35,8 @@ QLineSeries* pSerie(QChart& grafico, const QString& nome) {
 }  // namespace
 
 FrmGrafico::FrmGrafico(QWidget* pai)
-    : TelaPostos(QStringLiteral("FrmGrafico"), QStringLiteral("Grafico"), QStringLiteral("Gráfico das Previsões"),
-                 Gravacao::Sem, pai),
+    : TelaPostos(QStringLiteral("FrmGrafico"), QStringLiteral("Grafico"),
+                 QStringLiteral("Gráfico das Previsões"), Gravacao::Sem, pai),
       mVista(new QChartView(this)),
       mGrafico(new QChart),
       mSemanas(new QBarCategoryAxis),

@@ -16,13 +16,15 @@ constexpr int CentroNoTopo = 3;
 
 // One decimal of the number a 32-bit value reads as (its seven digits), not of its binary
 // expansion: 123.45 shows as 123,5 although the float holds 123.4499969.
-QString pFormata(float valor) { return texto::FormatNumber(texto::Val(texto::Str(valor)), 1); }
+QString pFormata(float valor) {
+    return texto::FormatNumber(texto::Val(texto::Str(valor)), 1);
+}
 
 }  // namespace
 
 FrmPrevisoes::FrmPrevisoes(QWidget* pai)
-    : TelaPostos(QStringLiteral("FrmPrevisoes"), QStringLiteral("Previsoes"), Mensagens::msgPrevisoes, Gravacao::Sem,
-                 pai),
+    : TelaPostos(QStringLiteral("FrmPrevisoes"), QStringLiteral("Previsoes"), Mensagens::msgPrevisoes,
+                 Gravacao::Sem, pai),
       mGrade(new halvo::Grid(this)) {
     mGrade->setObjectName(QStringLiteral("GrdPrevisoes"));
     mGrade->setEditavel(false);
@@ -38,7 +40,9 @@ void FrmPrevisoes::pAjustarGrade() {
     }
 }
 
-void FrmPrevisoes::pLimpar() { mGrade->Limpa(true); }
+void FrmPrevisoes::pLimpar() {
+    mGrade->Limpa(true);
+}
 
 void FrmPrevisoes::pPreencherGrade(const Posto& posto) {
     mGrade->Limpa(true);

@@ -35,7 +35,8 @@ FrmResultados::FrmResultados(QWidget* pai)
     rotulo->setObjectName(QStringLiteral("LblResultadosArquivo"));
     mArquivo = new QComboBox(corpo);
     mArquivo->setObjectName(QStringLiteral("CboResultadosArquivo"));
-    mArquivo->addItems({Mensagens::msgRelatorio, Mensagens::msgPrevisoes, Mensagens::msgExcel, Constantes::cteBoxCox});
+    mArquivo->addItems(
+        {Mensagens::msgRelatorio, Mensagens::msgPrevisoes, Mensagens::msgExcel, Constantes::cteBoxCox});
     mArquivo->setCurrentIndex(-1);
     rotulo->setBuddy(mArquivo);
     mTexto = new halvo::RichText(corpo);
@@ -61,7 +62,9 @@ void FrmResultados::pMostrarPrimeiro() {
     mArquivo->setCurrentIndex(Relatorio);
 }
 
-void FrmResultados::pLimpar() { mTexto->Limpa(); }
+void FrmResultados::pLimpar() {
+    mTexto->Limpa();
+}
 
 void FrmResultados::pArquivoEscolhido() {
     Posto posto;

@@ -28,8 +28,8 @@ public:
     explicit InstalacaoTeste(const teste::CasoDeTelas& caso)
         : pasta(QDir::toNativeSeparators(caso.host.caminho(QStringLiteral("modelos")))) {
         QDir().mkpath(pasta);
-        QFile::link(QStringLiteral(CORVALIN_PASTA_BIN "/CorvalinTeste"), pasta + QDir::separator() +
-                                                                              QStringLiteral("Corvalin"));
+        QFile::link(QStringLiteral(CORVALIN_PASTA_BIN "/CorvalinTeste"),
+                    pasta + QDir::separator() + QStringLiteral("Corvalin"));
     }
     // The run leaves the current folder in the case, which goes with the test.
     ~InstalacaoTeste() { QDir::setCurrent(QDir::tempPath()); }
@@ -39,7 +39,8 @@ public:
     QString pasta;
 };
 
-std::unique_ptr<corvalin::FrmExecutar> abre(const teste::CasoDeTelas& caso, const InstalacaoTeste& instalacao) {
+std::unique_ptr<corvalin::FrmExecutar> abre(const teste::CasoDeTelas& caso,
+                                            const InstalacaoTeste& instalacao) {
     auto tela = std::make_unique<corvalin::FrmExecutar>(instalacao.pasta);
     tela->setObjetos(caso.objetos());
     tela->Carregar();
@@ -51,7 +52,9 @@ QPushButton& botao(const QWidget& tela, const char* nome) {
     return controle<QPushButton>(tela, QString::fromLatin1(nome));
 }
 
-QListWidget& lista(const QWidget& tela) { return controle<QListWidget>(tela, QStringLiteral("LstExecutar")); }
+QListWidget& lista(const QWidget& tela) {
+    return controle<QListWidget>(tela, QStringLiteral("LstExecutar"));
+}
 
 QStringList linhas(const QWidget& tela) {
     QStringList textos;
@@ -72,9 +75,13 @@ QColor cor(const QWidget& tela, const QString& texto) {
     return {};
 }
 
-QString relatorio(const QWidget& tela) { return controle<halvo::RichText>(tela, QStringLiteral("RtfExecutar")).Texto(); }
+QString relatorio(const QWidget& tela) {
+    return controle<halvo::RichText>(tela, QStringLiteral("RtfExecutar")).Texto();
+}
 
-QString rotulo(const QWidget& tela, const char* nome) { return controle<QLabel>(tela, QString::fromLatin1(nome)).text(); }
+QString rotulo(const QWidget& tela, const char* nome) {
+    return controle<QLabel>(tela, QString::fromLatin1(nome)).text();
+}
 
 void escreve(const QString& caminho, const QStringList& linhas) {
     QFile arquivo(caminho);
@@ -116,7 +123,8 @@ private slots:
         QCOMPARE(linhas(*tela), (QStringList{QStringLiteral("30 - Apagado*"), QStringLiteral("20 - Curto*"),
                                              QStringLiteral("1234 - Rio - Alto*")}));
         QCOMPARE(lista(*tela).currentRow(), 0);
-        QCOMPARE(rotulo(*tela, "LblExecutar"), QStringLiteral("Selecione os postos que deseja incluir na execução:"));
+        QCOMPARE(rotulo(*tela, "LblExecutar"),
+                 QStringLiteral("Selecione os postos que deseja incluir na execução:"));
         auto& avancar = botao(*tela, "BotExecutarAvancar");
         QCOMPARE(avancar.text(), QStringLiteral("&Avançar >"));
         QVERIFY(avancar.isEnabled());
@@ -141,7 +149,8 @@ private slots:
         QCOMPARE(rotulo(*tela, "LblExecutarProblemas"), QStringLiteral("0 erros"));
         QVERIFY(controle<QLabel>(*tela, QStringLiteral("LblExecutarAlertas")).isVisible());
         QVERIFY(relatorio(*tela).contains(QStringLiteral("Posto: 1234 - Rio - Alto\nDados Gerais OK.")));
-        QCOMPARE(cor(*tela, QStringLiteral("O Histórico de Vazões Semanais tem menos de 20 anos.")), QColor(Qt::blue));
+        QCOMPARE(cor(*tela, QStringLiteral("O Histórico de Vazões Semanais tem menos de 20 anos.")),
+                 QColor(Qt::blue));
         QVERIFY(!relatorio(*tela).contains(QStringLiteral("Apagado")));
 
         botao(*tela, "BotExecutarVoltar").click();

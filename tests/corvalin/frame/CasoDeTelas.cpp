@@ -25,7 +25,8 @@ CasoDeTelas::~CasoDeTelas() {
     bd->Fechar();
 }
 
-corvalin::Posto CasoDeTelas::posto(int codigo, const QString& nome, int semanaInicialPrev, int anoInicialPrev) const {
+corvalin::Posto CasoDeTelas::posto(int codigo, const QString& nome, int semanaInicialPrev,
+                                   int anoInicialPrev) const {
     corvalin::Posto p;
     p.Codigo = codigo;
     p.Nome = nome;
@@ -45,7 +46,8 @@ corvalin::Posto CasoDeTelas::posto(int codigo, const QString& nome, int semanaIn
     return p;
 }
 
-corvalin::Posto CasoDeTelas::adiciona(int codigo, const QString& nome, int semanaInicialPrev, int anoInicialPrev) {
+corvalin::Posto CasoDeTelas::adiciona(int codigo, const QString& nome, int semanaInicialPrev,
+                                      int anoInicialPrev) {
     corvalin::Posto p = posto(codigo, nome, semanaInicialPrev, anoInicialPrev);
     grava(p);
     return p;

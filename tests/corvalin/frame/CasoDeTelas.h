@@ -28,8 +28,10 @@ public:
 
     // A station with general data that validate: a forecast from week semanaInicialPrev of
     // anoInicialPrev, file names from the code.
-    corvalin::Posto posto(int codigo, const QString& nome, int semanaInicialPrev = 3, int anoInicialPrev = 2009) const;
-    corvalin::Posto adiciona(int codigo, const QString& nome, int semanaInicialPrev = 3, int anoInicialPrev = 2009);
+    corvalin::Posto posto(int codigo, const QString& nome, int semanaInicialPrev = 3,
+                          int anoInicialPrev = 2009) const;
+    corvalin::Posto adiciona(int codigo, const QString& nome, int semanaInicialPrev = 3,
+                             int anoInicialPrev = 2009);
     void grava(corvalin::Posto& p);
     // A history from anoInicial whose last year ends in ultimaSemana; week w of year y flows
     // y * 0.01 + w.

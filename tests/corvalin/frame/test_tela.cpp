@@ -23,7 +23,8 @@ namespace {
 class FrmTeste : public corvalin::TelaPostos {
 public:
     FrmTeste()
-        : TelaPostos(QStringLiteral("FrmTeste"), QStringLiteral("Teste"), QStringLiteral("Teste"), Gravacao::Com),
+        : TelaPostos(QStringLiteral("FrmTeste"), QStringLiteral("Teste"), QStringLiteral("Teste"),
+                     Gravacao::Com),
           mValor(new QLineEdit(this)) {
         mValor->setObjectName(QStringLiteral("TxtTesteValor"));
         connect(mValor, &QLineEdit::textEdited, this, [this] { pMarcaAlterado(); });
@@ -49,7 +50,9 @@ QString codigo(const QWidget& tela, const QString& palavra) {
     return controle<QLineEdit>(tela, QStringLiteral("Txt%1Codigo").arg(palavra)).text();
 }
 
-void clica(const QWidget& tela, const QString& nome) { controle<QPushButton>(tela, nome).click(); }
+void clica(const QWidget& tela, const QString& nome) {
+    controle<QPushButton>(tela, nome).click();
+}
 
 void digita(const QWidget& tela, const QString& texto) {
     QTest::keyClicks(&controle<QLineEdit>(tela, QStringLiteral("TxtTesteValor")), texto);
@@ -143,7 +146,8 @@ private slots:
         QCOMPARE(passo(2), QStringLiteral("20"));
         caso.bd->TabPostos().MoveLast();
         QCOMPARE(passo(2), QStringLiteral("40"));
-        QCOMPARE(controle<halvo::Combo>(*tela, QStringLiteral("CBDPrevisoes")).Texto(), QStringLiteral("Charlie"));
+        QCOMPARE(controle<halvo::Combo>(*tela, QStringLiteral("CBDPrevisoes")).Texto(),
+                 QStringLiteral("Charlie"));
         QCOMPARE(passo(2), QStringLiteral("10"));
         QCOMPARE(passo(2), QStringLiteral("10"));
         QCOMPARE(passo(1), QStringLiteral("40"));
@@ -213,7 +217,8 @@ private slots:
         QCOMPARE(pergunta.icone, halvo::Icone::Pergunta);
         QCOMPARE(pergunta.botoes, halvo::Botoes::SimNaoCancelar);
         QCOMPARE(codigo(*tela, QStringLiteral("Teste")), QStringLiteral("20"));
-        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtTesteValor")).text(), QStringLiteral("BRAVOx"));
+        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtTesteValor")).text(),
+                 QStringLiteral("BRAVOx"));
 
         // Cancel on a choice in the list puts the name of the station on the screen back.
         auto& lista = controle<halvo::Combo>(*tela, QStringLiteral("CBDTeste"));
@@ -283,11 +288,12 @@ private slots:
                 atual = atual->nextInFocusChain();
             }
         }
-        QCOMPARE(ordem, (QStringList{QStringLiteral("TxtTesteCodigo"), QStringLiteral("CBDTeste"),
-                                     QStringLiteral("TxtTesteValor"), QStringLiteral("BotTesteNavegacao_0"),
-                                     QStringLiteral("BotTesteNavegacao_1"), QStringLiteral("BotTesteNavegacao_2"),
-                                     QStringLiteral("BotTesteNavegacao_3"), QStringLiteral("BotTesteGravar"),
-                                     QStringLiteral("BotTesteSair")}));
+        QCOMPARE(ordem,
+                 (QStringList{QStringLiteral("TxtTesteCodigo"), QStringLiteral("CBDTeste"),
+                              QStringLiteral("TxtTesteValor"), QStringLiteral("BotTesteNavegacao_0"),
+                              QStringLiteral("BotTesteNavegacao_1"), QStringLiteral("BotTesteNavegacao_2"),
+                              QStringLiteral("BotTesteNavegacao_3"), QStringLiteral("BotTesteGravar"),
+                              QStringLiteral("BotTesteSair")}));
     }
 };
 

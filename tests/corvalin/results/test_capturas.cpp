@@ -51,7 +51,9 @@ void vaiPara(const QWidget& tela, const QString& palavra, const QString& codigo)
     QCOMPARE(texto->text(), codigo);
 }
 
-void salva(QWidget& janela, const QString& arquivo) { QVERIFY(janela.grab().save(arquivo)); }
+void salva(QWidget& janela, const QString& arquivo) {
+    QVERIFY(janela.grab().save(arquivo));
+}
 
 }  // namespace
 
@@ -71,7 +73,8 @@ private slots:
         QTemporaryDir pasta;
         const QString caso = pasta.filePath(QStringLiteral("Amostras/Demonstração"));
         QStringList amostras;
-        for (const QString& nome : QDir(Raiz + QStringLiteral("/samples")).entryList({QStringLiteral("*.arq")})) {
+        for (const QString& nome :
+             QDir(Raiz + QStringLiteral("/samples")).entryList({QStringLiteral("*.arq")})) {
             amostras << Raiz + QStringLiteral("/samples/") + nome;
         }
         QCOMPARE(comando({QStringLiteral("criar"), caso}), 0);

@@ -26,7 +26,9 @@ QStringList rotulos(std::initializer_list<int> semanas) {
     return textos;
 }
 
-QChart& grafico(const QWidget& tela) { return *controle<QChartView>(tela, QStringLiteral("GrfGrafico")).chart(); }
+QChart& grafico(const QWidget& tela) {
+    return *controle<QChartView>(tela, QStringLiteral("GrfGrafico")).chart();
+}
 
 QStringList rotulosDoGrafico(const QWidget& tela) {
     const auto eixos = grafico(tela).axes(Qt::Horizontal);
@@ -55,7 +57,9 @@ bool tudoNaEscala(const QWidget& tela) {
     return true;
 }
 
-void proximo(const QWidget& tela) { controle<QPushButton>(tela, QStringLiteral("BotGraficoNavegacao_2")).click(); }
+void proximo(const QWidget& tela) {
+    controle<QPushButton>(tela, QStringLiteral("BotGraficoNavegacao_2")).click();
+}
 
 }  // namespace
 

@@ -64,10 +64,12 @@ private slots:
         QCOMPARE(grade.AlinhamentoColuna(6), 3);
 
         QCOMPARE(linha(grade, 0), semanas({1, 2, 3, 4, 5, 6}));
-        QCOMPARE(linha(grade, 1).mid(0, 3),
-                 (QStringList{QStringLiteral("Previsão"), QStringLiteral("123,5"), QStringLiteral("1.234,6")}));
-        QCOMPARE(linha(grade, 2).mid(0, 2), (QStringList{QStringLiteral("L. Inf."), QStringLiteral("111,1")}));
-        QCOMPARE(linha(grade, 3).mid(0, 2), (QStringList{QStringLiteral("L. Sup."), QStringLiteral("135,8")}));
+        QCOMPARE(linha(grade, 1).mid(0, 3), (QStringList{QStringLiteral("Previsão"), QStringLiteral("123,5"),
+                                                         QStringLiteral("1.234,6")}));
+        QCOMPARE(linha(grade, 2).mid(0, 2),
+                 (QStringList{QStringLiteral("L. Inf."), QStringLiteral("111,1")}));
+        QCOMPARE(linha(grade, 3).mid(0, 2),
+                 (QStringList{QStringLiteral("L. Sup."), QStringLiteral("135,8")}));
 
         proximo.click();
         QCOMPARE(linha(grade, 0), semanas({51, 52, 1, 2, 3, 4}));
@@ -78,7 +80,8 @@ private slots:
         QCOMPARE(linha(grade, 1).at(6), QStringLiteral("6,0"));
 
         proximo.click();
-        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtPrevisoesCodigo")).text(), QStringLiteral("5"));
+        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtPrevisoesCodigo")).text(),
+                 QStringLiteral("5"));
         for (int i = 0; i < 4; ++i) {
             QCOMPARE(linha(grade, i), QStringList(7, QString()));
         }

@@ -88,7 +88,8 @@ private slots:
         escreve(caso.host.caminho(QStringLiteral("previsoes/2.prv")), "previsao central B");
         auto& proximo = controle<QPushButton>(*tela, QStringLiteral("BotResultadosNavegacao_2"));
         proximo.click();
-        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtResultadosCodigo")).text(), QStringLiteral("2"));
+        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtResultadosCodigo")).text(),
+                 QStringLiteral("2"));
         QCOMPARE(visto(*tela), QStringLiteral("previsao central B"));
         controle<QPushButton>(*tela, QStringLiteral("BotResultadosNavegacao_0")).click();
         QCOMPARE(visto(*tela), QStringLiteral("Arquivo inexistente."));
