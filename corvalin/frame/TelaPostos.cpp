@@ -38,6 +38,7 @@ TelaPostos::TelaPostos(const QString& nome, const QString& palavra, const QStrin
                        QWidget* pai)
     : Tela(nome, titulo, pai),
       mPalavra(palavra),
+      mGravacao(gravacao),
       mLblCodigo(new QLabel(QStringLiteral("Código do Posto"), this)),
       mTxtCodigo(new QLineEdit(this)),
       mLblNome(new QLabel(QStringLiteral("Nome do Aproveitamento"), this)),
@@ -51,10 +52,6 @@ TelaPostos::TelaPostos(const QString& nome, const QString& palavra, const QStrin
     const int largura = fontMetrics().horizontalAdvance(QLatin1Char('0'));
     mTxtCodigo->setMinimumWidth(largura * 8);
     mTxtCodigo->setMaximumWidth(largura * 12);
-    if (gravacao == Gravacao::Com) {
-        mBotGravar = pBotao(*this, QStringLiteral("Bot%1Gravar").arg(palavra), QStringLiteral("&Gravar"));
-        pRegistraGravacao(*mBotGravar);
-    }
     connect(mCBD, &halvo::Combo::Selecionado, this, &TelaPostos::pEscolhido);
     connect(mCBD, &halvo::Combo::Alterado, this, [this](const QString& texto) { mNomeNaTela = texto; });
 }
@@ -67,36 +64,36 @@ void TelaPostos::pMontaTela(QWidget& corpo, std::initializer_list<QPushButton*> 
     cabecalho->addWidget(mLblNome);
     cabecalho->addWidget(mCBD, 1);
 
-    // Made after the screen's own part, so that Tab reaches them last.
+    // Made after the screen's own part, so that Tab reaches them last; the screen's own buttons
+    // join them in the order they stand.
     auto* rodape = new QHBoxLayout;
-    for (std::size_t i = 0; i < mNavegacao.size(); ++i) {
+    QWidget* anterior = nullptr;
+    for (std::size_t i = 0; i < ModosNavegacao.size(); ++i) {
         QPushButton* botao = pBotao(*this, QStringLiteral("Bot%1Navegacao_%2").arg(mPalavra).arg(i), {});
         botao->setIcon(style()->standardIcon(IconesNavegacao[i]));
         connect(botao, &QPushButton::clicked, this, [this, i] { pNavegacao(static_cast<int>(i)); });
         rodape->addWidget(botao);
-        mNavegacao[i] = botao;
+        anterior = botao;
     }
     rodape->addStretch(1);
-    mBotSair =
-        pBotao(*this, QStringLiteral("Bot%1Sair").arg(mPalavra), QStringLiteral("&") + Mensagens::msgFechar);
-    connect(mBotSair, &QPushButton::clicked, this, &QWidget::close);
-
-    QWidget* anterior = mNavegacao.back();
-    auto pFimDaFila = [&](QPushButton* botao) {
+    for (QPushButton* botao : botoesProprios) {
         rodape->addWidget(botao);
         QWidget::setTabOrder(anterior, botao);
         anterior = botao;
-    };
-    for (QPushButton* botao : botoesProprios) {
-        pFimDaFila(botao);
     }
-    if (mBotGravar != nullptr) {
-        connect(mBotGravar, &QPushButton::clicked, this, [this] {
+    if (mGravacao == Gravacao::Com) {
+        QPushButton* gravar =
+            pBotao(*this, QStringLiteral("Bot%1Gravar").arg(mPalavra), QStringLiteral("&Gravar"));
+        pRegistraGravacao(*gravar);
+        connect(gravar, &QPushButton::clicked, this, [this] {
             pArmadilha(QStringLiteral("Bot%1Gravar_Click").arg(mPalavra), [this] { pGravarClicado(); });
         });
-        pFimDaFila(mBotGravar);
+        rodape->addWidget(gravar);
     }
-    pFimDaFila(mBotSair);
+    QPushButton* sair =
+        pBotao(*this, QStringLiteral("Bot%1Sair").arg(mPalavra), QStringLiteral("&") + Mensagens::msgFechar);
+    connect(sair, &QPushButton::clicked, this, &QWidget::close);
+    rodape->addWidget(sair);
 
     auto* tela = new QVBoxLayout(this);
     tela->addLayout(cabecalho);

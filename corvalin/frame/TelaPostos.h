@@ -3,7 +3,6 @@
 #include "corvalin/frame/Tela.h"
 #include "platform/recordstore/Recordstore.h"
 
-#include <array>
 #include <initializer_list>
 
 class QLabel;
@@ -57,8 +56,8 @@ protected:
     void pExibir(bool achou, const Posto& posto);
 
     QLineEdit& TxtCodigo() const { return *mTxtCodigo; }
+    // The record list, where an editing screen hears a name typed.
     halvo::Combo& CBD() const { return *mCBD; }
-    QPushButton& BotSair() const { return *mBotSair; }
 
     static const QString IndiceNome;
 
@@ -68,13 +67,11 @@ private:
     void pEscolhido(recordstore::Bookmark marcador);
 
     QString mPalavra;
+    Gravacao mGravacao;
     QLabel* mLblCodigo;
     QLineEdit* mTxtCodigo;
     QLabel* mLblNome;
     halvo::Combo* mCBD;
-    std::array<QPushButton*, 4> mNavegacao{};
-    QPushButton* mBotGravar = nullptr;
-    QPushButton* mBotSair = nullptr;
     // The name as the screen last showed it or the user typed it, put back when a choice in the
     // list is cancelled at the prompt.
     QString mNomeNaTela;
