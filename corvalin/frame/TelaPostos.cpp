@@ -122,6 +122,11 @@ std::int32_t TelaPostos::pCodigoNaTela() const {
     return texto::IsNumeric(codigo) ? texto::CLng(texto::Val(codigo)) : 0;
 }
 
+void TelaPostos::setCodigoHabilitado(bool habilitado) {
+    mLblCodigo->setEnabled(habilitado);
+    mTxtCodigo->setEnabled(habilitado);
+}
+
 void TelaPostos::pExibir(bool achou, const Posto& posto) {
     if (achou) {
         mTxtCodigo->setText(QString::number(posto.Codigo));

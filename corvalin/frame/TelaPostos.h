@@ -56,6 +56,8 @@ protected:
     void pExibir(bool achou, const Posto& posto);
 
     QLineEdit& TxtCodigo() const { return *mTxtCodigo; }
+    // The code box and its label, open only where a code may be typed.
+    void setCodigoHabilitado(bool habilitado);
     // The record list, where an editing screen hears a name typed.
     halvo::Combo& CBD() const { return *mCBD; }
 
