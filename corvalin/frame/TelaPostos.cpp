@@ -5,6 +5,8 @@
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
 #include "halvo/controles/Combo.h"
+#include "halvo/sdk/ServicoDialogo.h"
+#include "halvo/sdk/Servicos.h"
 #include "platform/texto/Texto.h"
 
 #include <QBoxLayout>
@@ -125,6 +127,24 @@ std::int32_t TelaPostos::pCodigoNaTela() const {
 void TelaPostos::setCodigoHabilitado(bool habilitado) {
     mLblCodigo->setEnabled(habilitado);
     mTxtCodigo->setEnabled(habilitado);
+}
+
+void TelaPostos::setNavegacaoHabilitada(bool habilitada) {
+    for (std::size_t i = 0; i < ModosNavegacao.size(); ++i) {
+        if (auto* botao = findChild<QPushButton*>(QStringLiteral("Bot%1Navegacao_%2").arg(mPalavra).arg(i))) {
+            botao->setEnabled(habilitada);
+        }
+    }
+}
+
+bool TelaPostos::pObtemPosto(Posto& posto) {
+    if (!texto::Trim(mTxtCodigo->text()).isEmpty() &&
+        postoBD().getPosto(posto, BuscaPorCodigo, pCodigoNaTela(), {})) {
+        return true;
+    }
+    halvo::Servicos::dialogo().Mensagem(Mensagens::msgSelecionePosto, Mensagens::msgTituloInformacao,
+                                        halvo::Icone::Informacao);
+    return false;
 }
 
 void TelaPostos::pExibir(bool achou, const Posto& posto) {

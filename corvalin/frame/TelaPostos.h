@@ -60,6 +60,11 @@ protected:
     void setCodigoHabilitado(bool habilitado);
     // The record list, where an editing screen hears a name typed.
     halvo::Combo& CBD() const { return *mCBD; }
+    // The four navigation buttons, for a screen that shuts the way to other stations.
+    void setNavegacaoHabilitada(bool habilitada);
+    // Loads the station whose code is on the screen; when there is none, says that one must be
+    // chosen first.
+    bool pObtemPosto(Posto& posto);
 
     static const QString IndiceNome;
 
