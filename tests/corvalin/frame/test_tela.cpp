@@ -164,31 +164,22 @@ private slots:
         QCOMPARE(passo(3), QStringLiteral("10"));
     }
 
-    // A choice in the record list, by keyboard, shows that station.
-    void escolhaNaLista() {
+    // Enter moves on as Tab does; a choice in the record list, by keyboard, shows that station.
+    void teclado() {
         teste::CasoDeTelas caso;
         caso.adiciona(30, QStringLiteral("Alfa"));
         caso.adiciona(20, QStringLiteral("Bravo"));
         auto tela = teste::carrega<corvalin::FrmPrevisoes>(caso);
         tela->show();
+        QVERIFY(QTest::qWaitForWindowActive(tela.get()));
+        auto& texto = controle<QLineEdit>(*tela, QStringLiteral("TxtPrevisoesCodigo"));
         auto& lista = controle<halvo::Combo>(*tela, QStringLiteral("CBDPrevisoes"));
-        QVERIFY(lista.SomenteLista());
-        lista.setFocus();
+        texto.setFocus();
+        QTest::keyClick(&texto, Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget(), &lista);
         QTest::keyClick(&lista, Qt::Key_Down);
         QCOMPARE(codigo(*tela, QStringLiteral("Previsoes")), QStringLiteral("20"));
         QCOMPARE(lista.Texto(), QStringLiteral("Bravo"));
-    }
-
-    // Enter moves on as Tab does.
-    void enterComoTab() {
-        teste::CasoDeTelas caso;
-        auto tela = teste::carrega<corvalin::FrmPrevisoes>(caso);
-        tela->show();
-        QVERIFY(QTest::qWaitForWindowActive(tela.get()));
-        auto& texto = controle<QLineEdit>(*tela, QStringLiteral("TxtPrevisoesCodigo"));
-        texto.setFocus();
-        QTest::keyClick(&texto, Qt::Key_Return);
-        QCOMPARE(QApplication::focusWidget(), &controle<halvo::Combo>(*tela, QStringLiteral("CBDPrevisoes")));
     }
 
     // The prompt on every way out of changed data: Cancel stays, No drops the changes, Yes saves
