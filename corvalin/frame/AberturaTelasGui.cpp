@@ -4,6 +4,7 @@
 #include "corvalin/results/FrmGrafico.h"
 #include "corvalin/results/FrmPrevisoes.h"
 #include "corvalin/results/FrmResultados.h"
+#include "corvalin/stations/FrmPostos.h"
 #include "halvo/sdk/Caso.h"
 #include "halvo/sdk/Servicos.h"
 #include "halvo/sdk/UtilitariosSistema.h"
@@ -34,6 +35,7 @@ constexpr std::array Fabricas{
     Fabrica{"FrmPrevisoes", &pFaz<FrmPrevisoes>},
     Fabrica{"FrmGrafico", &pFaz<FrmGrafico>},
     Fabrica{"FrmResultados", &pFaz<FrmResultados>},
+    Fabrica{"FrmPostos", &pFaz<FrmPostos>},
 };
 
 const halvo::caso& pCaso(const ObjetosCaso& objetos) {

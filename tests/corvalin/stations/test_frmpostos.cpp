@@ -1,0 +1,375 @@
+// The station screen driven through its controls: the grid of years and weeks, the spinners,
+// the checks of a save, new, delete and import, the prompt, a read-only case and the keyboard.
+
+#include "corvalin/stations/FrmPostos.h"
+#include "halvo/controles/Combo.h"
+#include "halvo/controles/Grid.h"
+#include "halvo/controles/Spin.h"
+#include "tests/corvalin/frame/CasoDeTelas.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QtTest>
+
+using halvo::Icone;
+using halvo::Resposta;
+using teste::controle;
+
+namespace {
+
+const QString Informacao = QStringLiteral("Informação");
+
+struct Frm {
+    explicit Frm(const teste::CasoDeTelas& caso) : tela(teste::carrega<corvalin::FrmPostos>(caso)) {}
+
+    QLineEdit& codigo() const { return controle<QLineEdit>(*tela, QStringLiteral("TxtPostosCodigo")); }
+    halvo::Combo& nome() const { return controle<halvo::Combo>(*tela, QStringLiteral("CBDPostos")); }
+    QLineEdit& area() const { return controle<QLineEdit>(*tela, QStringLiteral("TxtPostosArea")); }
+    halvo::Spin& ano(int i) const {
+        return controle<halvo::Spin>(*tela, QStringLiteral("SpnPostosAno_%1").arg(i));
+    }
+    halvo::Grid& grade() const { return controle<halvo::Grid>(*tela, QStringLiteral("GrdPostos")); }
+    QString celula(int linha, int coluna) const { return grade().TextoMatriz(linha, coluna); }
+    void clica(const char* botao) const {
+        controle<QPushButton>(*tela, QStringLiteral("BotPostos") + QLatin1String(botao)).click();
+    }
+    void digitaArea(const QString& texto) const {
+        area().selectAll();
+        QTest::keyClicks(&area(), texto);
+    }
+    // A cell edited as the user's editor commits it.
+    void edita(int linha, int coluna, const QString& texto) const {
+        auto* modelo = grade().findChild<QTableView*>()->model();
+        QVERIFY(modelo->setData(modelo->index(linha - 1, coluna - 1), texto));
+    }
+    // Weeks 1 to ate of rows 1 to linhas, week w of row r as r * 100 + w.
+    void preenche(int linhas, int ate) const {
+        for (int linha = 1; linha <= linhas; ++linha) {
+            for (int coluna = 1; coluna <= ate; ++coluna) {
+                edita(linha, coluna, QString::number(linha * 100 + coluna));
+            }
+        }
+    }
+
+    std::unique_ptr<corvalin::FrmPostos> tela;
+};
+
+// A case whose first station, Alfa (code 10), has twenty years, the last ending in week ultima.
+struct CasoComAlfa : teste::CasoDeTelas {
+    explicit CasoComAlfa(int ultima = 52, bool somenteLeitura = false) : CasoDeTelas(somenteLeitura) {
+        corvalin::Posto alfa = adiciona(10, QStringLiteral("Alfa"));
+        historico(alfa, 1990, 2009, ultima);
+    }
+
+    corvalin::Posto le(int codigo) const {
+        corvalin::Posto posto;
+        posto.Codigo = postoBD->getPosto(posto, corvalin::BuscaPorCodigo, codigo, {}) ? posto.Codigo : -1;
+        return posto;
+    }
+    corvalin::Historico vazoes(int codigo) const {
+        corvalin::Historico vazoes;
+        postoBD->getHistorico(le(codigo), vazoes);
+        return vazoes;
+    }
+    const auto& ultima() const { return host.dialogo.Mensagens().back(); }
+    std::size_t mensagens() const { return host.dialogo.Mensagens().size(); }
+    void confere(const QString& texto, const QString& titulo, Icone icone) const {
+        QCOMPARE(ultima().texto, texto);
+        QCOMPARE(ultima().titulo, titulo);
+        QCOMPARE(ultima().icone, icone);
+    }
+};
+
+bool temFoco(const QWidget& controle) {
+    QWidget* foco = QApplication::focusWidget();
+    return foco == &controle || controle.isAncestorOf(foco);
+}
+
+}  // namespace
+
+class TesteFrmPostos : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil)); }
+
+    // The first station by name settles the grid's weeks; a 53-week station on a 52-week grid
+    // fails into the trap of pMostrar, and a 52-week one on a 53-week grid leaves week 53 empty.
+    void gradeFixadaPeloPrimeiroPosto() {
+        CasoComAlfa caso(30);
+        corvalin::Posto bravo = caso.posto(20, QStringLiteral("Bravo"));
+        bravo.Arquivos.CasoUsa53Semanas = 1;
+        caso.historico(bravo, 1990, 2009, 53);
+        {
+            const Frm t(caso);
+            QCOMPARE(t.grade().Colunas(), 53);
+            QCOMPARE(t.grade().Linhas(), 21);
+            QCOMPARE(t.celula(0, 0) + t.celula(0, 52) + t.celula(20, 0), QStringLiteral("AnoSem 522009"));
+            QCOMPARE(t.celula(1, 1), QStringLiteral("20,9"));
+            QCOMPARE(t.celula(20, 30), QStringLiteral("50,09"));
+            QVERIFY(t.celula(20, 31).isEmpty());
+            QCOMPARE(t.grade().Linha() * 100 + t.grade().Coluna(), 2031);
+            QCOMPARE(t.ano(0).Texto() + t.ano(1).Texto(), QStringLiteral("19902009"));
+            QVERIFY(!t.codigo().isEnabled());
+            QVERIFY(caso.host.dialogo.Mensagens().empty());
+            t.clica("Navegacao_2");
+            QVERIFY(caso.ultima().texto.contains(QStringLiteral("Erro.: 9\rDescrição.: ")));
+            QVERIFY(caso.ultima().texto.contains(QStringLiteral("Rotina.: pMostrar\rMódulo.: FrmPostos")));
+        }
+        caso.postoBD->delPosto(caso.le(10));
+        corvalin::Posto charlie = caso.adiciona(30, QStringLiteral("Charlie"));
+        caso.historico(charlie, 1990, 2009, 52);
+        const Frm t(caso);
+        QCOMPARE(t.grade().Colunas(), 54);
+        QCOMPARE(t.celula(1, 53), QStringLiteral("72,9"));
+        t.clica("Navegacao_2");
+        QCOMPARE(t.celula(1, 52), QStringLiteral("71,9"));
+        QVERIFY(t.celula(1, 53).isEmpty());
+    }
+
+    // A station typed by hand, saved, and seen again on a new screen. Numbers are read with "."
+    // only, so a comma fraction is lost; a typed 0 and a text read as 0 are saved as missing.
+    void postoNovoGravadoEReaberto() {
+        CasoComAlfa caso;
+        caso.postoBD->delPosto(caso.le(10));
+        const int esteAno = QDate::currentDate().year();
+        {
+            const Frm t(caso);
+            QVERIFY(t.codigo().isEnabled());
+            QCOMPARE(t.ano(0).Texto(), QString::number(esteAno - 19));
+            QCOMPARE(t.grade().Linhas(), 21);
+            QCOMPARE(t.celula(20, 0), QString::number(esteAno));
+            QTest::keyClicks(&t.codigo(), QStringLiteral("12a3"));
+            QTest::keyClicks(t.nome().lineEdit(), QStringLiteral("Novo Posto"));
+            QTest::keyClicks(&t.area(), QStringLiteral("2,5x"));
+            QCOMPARE(t.codigo().text() + t.area().text(), QStringLiteral("12325"));
+            t.preenche(19, 52);
+            t.edita(20, 1, QStringLiteral("2001"));
+            t.edita(20, 2, QStringLiteral("2002"));
+            t.edita(1, 1, QStringLiteral("12,5"));
+            t.edita(2, 5, QStringLiteral("0"));
+            t.edita(3, 7, QStringLiteral("abc"));
+            t.clica("Gravar");
+            QVERIFY(caso.host.dialogo.Mensagens().empty());
+            QVERIFY(!t.codigo().isEnabled());
+            QCOMPARE(caso.notificador->Eventos(), std::vector<std::int32_t>{3});
+        }
+        const corvalin::Posto posto = caso.le(123);
+        QCOMPARE(posto.Nome, QStringLiteral("Novo Posto"));
+        QCOMPARE(posto.Area, 25.0F);
+        QCOMPARE(posto.AnoInicial * 10000 + posto.AnoFinal, (esteAno - 19) * 10000 + esteAno);
+        const corvalin::Historico vazoes = caso.vazoes(123);
+        QCOMPARE(vazoes(1, 1), 12.0F);
+        QCOMPARE(vazoes(19, 52), 1952.0F);
+        QCOMPARE(vazoes(20, 2), 2002.0F);
+        QCOMPARE(vazoes(2, 5) + vazoes(3, 7) + vazoes(20, 3), 0.0F);
+
+        const Frm t(caso);
+        QCOMPARE(t.codigo().text(), QStringLiteral("123"));
+        QCOMPARE(t.nome().Texto(), QStringLiteral("Novo Posto"));
+        QCOMPARE(t.celula(1, 1) + t.celula(19, 52), QStringLiteral("121952"));
+        QVERIFY(t.celula(2, 5).isEmpty() && t.celula(3, 7).isEmpty());
+        QCOMPARE(t.grade().Linha() * 100 + t.grade().Coluna(), 2003);
+    }
+
+    // Leaving changed data asks: Cancel stays with the changes, No drops them, Yes saves. In a
+    // read-only case nothing can be written and nothing is asked.
+    void perguntaAoSairESomenteLeitura() {
+        {
+            CasoComAlfa caso;
+            caso.adiciona(20, QStringLiteral("Bravo"));
+            const Frm t(caso);
+            t.digitaArea(QStringLiteral("777"));
+            caso.host.dialogo.responde(Resposta::Cancelar);
+            t.clica("Navegacao_2");
+            caso.confere(QStringLiteral("Deseja gravar as alterações realizadas?"),
+                         QStringLiteral("Confirmação"), Icone::Pergunta);
+            QCOMPARE(caso.ultima().botoes, halvo::Botoes::SimNaoCancelar);
+            QCOMPARE(t.codigo().text() + t.area().text(), QStringLiteral("10777"));
+
+            caso.host.dialogo.responde(Resposta::Nao);
+            t.clica("Navegacao_2");
+            QCOMPARE(t.codigo().text(), QStringLiteral("20"));
+            QCOMPARE(caso.le(10).Area, 0.0F);
+
+            t.clica("Navegacao_0");
+            t.digitaArea(QStringLiteral("555"));
+            caso.host.dialogo.responde(Resposta::Sim);
+            QVERIFY(t.tela->close());
+            QCOMPARE(caso.le(10).Area, 555.0F);
+            QCOMPARE(caso.mensagens(), std::size_t{3});
+        }
+        CasoComAlfa caso(52, true);
+        const Frm t(caso);
+        for (const char* botao : {"Novo", "Apagar", "Gravar", "Importar"}) {
+            QVERIFY(!controle<QPushButton>(*t.tela, QStringLiteral("BotPostos") + QLatin1String(botao))
+                         .isEnabled());
+        }
+        t.digitaArea(QStringLiteral("9"));
+        t.edita(1, 1, QStringLiteral("1"));
+        QVERIFY(t.tela->close());
+        QVERIFY(caso.host.dialogo.Mensagens().empty());
+    }
+
+    // The question about the years comes once for each record shown, and No leaves it pending;
+    // the span never goes below 20 years, silently; each step adds or drops one row.
+    void anosPelosGiradores() {
+        CasoComAlfa caso;
+        const Frm t(caso);
+        caso.host.dialogo.responde(Resposta::Nao);
+        t.ano(0).stepBy(1);
+        caso.confere(QStringLiteral("Deseja excluir um ano no histórico?"), QStringLiteral("Confirmação"),
+                     Icone::Pergunta);
+        QCOMPARE(t.ano(0).Texto(), QStringLiteral("1990"));
+        QCOMPARE(t.grade().Linhas(), 21);
+
+        t.ano(1).stepBy(1);
+        QCOMPARE(caso.ultima().texto, QStringLiteral("Deseja incluir um ano no histórico?"));
+        QCOMPARE(t.grade().Linhas(), 22);
+        QCOMPARE(t.celula(21, 0), QStringLiteral("2010"));
+        QCOMPARE(t.grade().Linha(), 21);
+
+        t.ano(0).stepBy(1);
+        QCOMPARE(t.celula(1, 0), QStringLiteral("1991"));
+        t.ano(0).stepBy(1);
+        t.ano(1).stepBy(-1);
+        QCOMPARE(caso.mensagens(), std::size_t{2});
+        QCOMPARE(t.ano(0).Texto() + t.ano(1).Texto(), QStringLiteral("19912010"));
+        QCOMPARE(t.grade().Linhas(), 21);
+
+        t.ano(0).stepBy(-1);
+        QCOMPARE(t.celula(1, 0), QStringLiteral("1990"));
+        t.clica("Gravar");
+        caso.confere(QStringLiteral("Valor Inválido para Vazão na linha 1 coluna 1. Verifique."), Informacao,
+                     Icone::Informacao);
+
+        caso.host.dialogo.responde(Resposta::Nao);
+        t.clica("Navegacao_0");
+        QCOMPARE(t.grade().Linhas(), 21);
+        t.ano(1).stepBy(1);
+        QCOMPARE(caso.ultima().texto, QStringLiteral("Deseja incluir um ano no histórico?"));
+    }
+
+    // Every year but the last is whole; the last starts at week 1 and may end early, without holes.
+    void lacunasDoHistorico() {
+        CasoComAlfa caso(10);
+        const Frm t(caso);
+        t.edita(20, 10, QStringLiteral("10"));
+        t.clica("Gravar");
+        QVERIFY(caso.host.dialogo.Mensagens().empty());
+        QCOMPARE(caso.vazoes(10)(20, 10), 10.0F);
+
+        const auto recusa = [&](int linha, int coluna, int falhaLinha, int falhaColuna) {
+            const QString antes = t.celula(linha, coluna);
+            t.edita(linha, coluna, QStringLiteral(" "));
+            t.clica("Gravar");
+            QCOMPARE(caso.ultima().texto,
+                     QStringLiteral("Valor Inválido para Vazão na linha %1 coluna %2. Verifique.")
+                         .arg(falhaLinha)
+                         .arg(falhaColuna));
+            QCOMPARE(t.grade().Linha() * 100 + t.grade().Coluna(), falhaLinha * 100 + falhaColuna);
+            t.edita(linha, coluna, antes);
+        };
+        recusa(20, 5, 20, 6);
+        recusa(20, 1, 20, 1);
+        recusa(3, 7, 3, 7);
+        QCOMPARE(caso.mensagens(), std::size_t{3});
+    }
+
+    // Delete asks first and shows the first station afterwards, or a new record when none is left;
+    // a new station cannot take a name that another code holds, whatever its case.
+    void exclusaoEConflitoDeNome() {
+        CasoComAlfa caso;
+        const Frm t(caso);
+        t.clica("Novo");
+        t.clica("Apagar");
+        caso.confere(QStringLiteral("Não há um registro para ser excluído."), Informacao, Icone::Informacao);
+
+        QTest::keyClicks(&t.codigo(), QStringLiteral("99"));
+        QTest::keyClicks(t.nome().lineEdit(), QStringLiteral("ALFA"));
+        QTest::keyClicks(&t.area(), QStringLiteral("1"));
+        t.preenche(20, 52);
+        t.clica("Gravar");
+        caso.confere(QStringLiteral("Este Posto já existe."), Informacao, Icone::Informacao);
+        QVERIFY(!t.codigo().isEnabled());
+        QCOMPARE(caso.le(99).Codigo, -1);
+        QCOMPARE(t.tela->getEstado(), corvalin::Tela::Novo);
+
+        caso.host.dialogo.responde(Resposta::Nao);
+        t.clica("Navegacao_0");
+        caso.host.dialogo.responde(Resposta::Nao);
+        t.clica("Apagar");
+        caso.confere(QStringLiteral("Tem certeza que deseja excluir este registro?"),
+                     QStringLiteral("Confirmação"), Icone::Pergunta);
+        QCOMPARE(caso.le(10).Codigo, 10);
+        t.clica("Apagar");
+        QCOMPARE(caso.le(10).Codigo, -1);
+        QCOMPARE(caso.notificador->Eventos(), std::vector<std::int32_t>{3});
+        QVERIFY(t.codigo().isEnabled() && t.codigo().text().isEmpty());
+        QCOMPARE(t.tela->getEstado(), corvalin::Tela::Novo);
+    }
+
+    // The import saves the file's station and shows it, under the progress form, which is gone
+    // afterwards; a file that fails shows why.
+    void importacao() {
+        CasoComAlfa caso;
+        const Frm t(caso);
+        t.clica("Importar");
+        QVERIFY(caso.host.dialogo.Mensagens().empty());
+
+        caso.host.dialogo.respondeArquivo(QStringLiteral(CORVALIN_DADOS_TESTE "/execucao/101.dat"));
+        t.clica("Importar");
+        QCOMPARE(caso.host.dialogo.FiltrosPedidos().back(), QStringLiteral("Todos os arquivos (*.*)|*.*"));
+        QCOMPARE(t.codigo().text(), QStringLiteral("101"));
+        QCOMPARE(t.nome().Texto(), QStringLiteral("Rio Alfa em Primeira"));
+        QCOMPARE(t.celula(1, 0) + t.celula(1, 1), QStringLiteral("198173,8"));
+        QCOMPARE(caso.vazoes(101)(1, 1), 73.8F);
+        QCOMPARE(caso.host.sistema.Auxiliares.size(), std::size_t{1});
+        for (QWidget* janela : QApplication::topLevelWidgets()) {
+            QVERIFY(janela->objectName() != QStringLiteral("FrmBarraDeProgresso"));
+        }
+
+        QFile truncado(caso.host.caminho(QStringLiteral("truncado.dat")));
+        QVERIFY(truncado.open(QIODevice::WriteOnly));
+        truncado.write("     202 Rio Truncado\r\n");
+        truncado.close();
+        caso.host.dialogo.respondeArquivo(truncado.fileName());
+        t.clica("Importar");
+        caso.confere(QStringLiteral("Erro ao ler o arquivo.\r\n\r\nVazões Semanais"), QStringLiteral("Erro"),
+                     Icone::Erro);
+        QCOMPARE(t.codigo().text(), QStringLiteral("101"));
+    }
+
+    // Tab follows the fields in reading order, Enter leaves the grid as Tab would, and the
+    // captions' accelerators work.
+    void teclado() {
+        CasoComAlfa caso;
+        const Frm t(caso);
+        t.tela->show();
+        QVERIFY(QTest::qWaitForWindowActive(t.tela.get()));
+        t.nome().setFocus();
+        QWidget* tabela = t.grade().findChild<QTableView*>();
+        for (const QWidget* esperado :
+             std::initializer_list<const QWidget*>{&t.area(), &t.ano(0), &t.ano(1), tabela}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QVERIFY(temFoco(*esperado));
+        }
+        QTest::keyClick(tabela, Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("BotPostosNavegacao_0"));
+
+        // A button's accelerator clicks it on the next turns of the event loop.
+        QTest::keyClick(t.tela.get(), Qt::Key_N, Qt::AltModifier);
+        QTRY_VERIFY(t.codigo().isEnabled());
+        QVERIFY(temFoco(t.nome()));
+        QTest::keyClick(t.tela.get(), Qt::Key_P, Qt::AltModifier);
+        QTRY_COMPARE(caso.mensagens(), std::size_t{1});
+        QCOMPARE(caso.ultima().texto, QStringLiteral("Não há um registro para ser excluído."));
+    }
+};
+
+QTEST_MAIN(TesteFrmPostos)
+#include "test_frmpostos.moc"
