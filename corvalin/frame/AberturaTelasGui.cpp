@@ -1,6 +1,7 @@
 #include "corvalin/frame/AberturaTelasGui.h"
 
 #include "corvalin/execution/FrmExecutar.h"
+#include "corvalin/options/FrmOpcoes.h"
 #include "corvalin/results/FrmGrafico.h"
 #include "corvalin/results/FrmPrevisoes.h"
 #include "corvalin/results/FrmResultados.h"
@@ -36,6 +37,7 @@ constexpr std::array Fabricas{
     Fabrica{"FrmGrafico", &pFaz<FrmGrafico>},
     Fabrica{"FrmResultados", &pFaz<FrmResultados>},
     Fabrica{"FrmPostos", &pFaz<FrmPostos>},
+    Fabrica{"FrmOpcoes", &pFaz<FrmOpcoes>},
 };
 
 const halvo::caso& pCaso(const ObjetosCaso& objetos) {

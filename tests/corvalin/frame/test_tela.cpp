@@ -90,7 +90,7 @@ private slots:
         QVERIFY(!tela->isModal());
         QCOMPARE(codigo(*tela, QStringLiteral("Previsoes")), QStringLiteral("10"));
 
-        QCOMPARE(modelo.JanelaAbrir(1, 1, nullptr), std::int16_t{0});
+        QCOMPARE(modelo.JanelaAbrir(5, 1, nullptr), std::int16_t{0});
         QCOMPARE(caso.host.sistema.Filhas.size(), std::size_t{1});
 
         tela->close();
