@@ -1,5 +1,6 @@
 #include "corvalin/frame/AberturaTelasGui.h"
 
+#include "corvalin/editors/FrmDadosGerais.h"
 #include "corvalin/execution/FrmExecutar.h"
 #include "corvalin/options/FrmOpcoes.h"
 #include "corvalin/results/FrmGrafico.h"
@@ -36,6 +37,7 @@ constexpr std::array Fabricas{
     Fabrica{"FrmPrevisoes", &pFaz<FrmPrevisoes>},
     Fabrica{"FrmGrafico", &pFaz<FrmGrafico>},
     Fabrica{"FrmResultados", &pFaz<FrmResultados>},
+    Fabrica{"FrmDadosGerais", &pFaz<FrmDadosGerais>},
     Fabrica{"FrmPostos", &pFaz<FrmPostos>},
     Fabrica{"FrmOpcoes", &pFaz<FrmOpcoes>},
 };
