@@ -52,7 +52,7 @@ void AssistenteExecucao::pGerarArquivosDireto() {
 }
 
 void AssistenteExecucao::pExecutar() {
-    mLblExecutar = QStringLiteral("Execução do Caso:");
+    mLblExecutar = TituloExecucao;
     ExecucaoPostos(*mObjetos.caso, mPostoBD, mOpcoesBD, mRegistro, mPastaPlugin)
         .pExecutar(mLista, *mObjetos.Notificador);
 }

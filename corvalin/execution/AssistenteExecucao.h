@@ -12,6 +12,9 @@ class JanelaProgresso;
 class ListaPostos;
 class RegistroTexto;
 
+// The title of the run's step, over its log.
+inline const QString TituloExecucao = QStringLiteral("Execução do Caso:");
+
 // The run of a case apart from its screen: the list of stations, their validation, the
 // generation of their files and the run of the solver, with the texts of the screen's labels as
 // plain outputs. The assistant's screen drives it with its list and its log; the host's run

@@ -135,7 +135,7 @@ int ComandosCorvalin::pValidarEExecutar(const QStringList& codigos, bool executa
     }
     JanelaProgressoNula janela;
     assistente.pGerarArquivos(janela);
-    pLinha(QStringLiteral("Execução do Caso:"));
+    pLinha(TituloExecucao);
     assistente.pExecutar();
     return notificador->Ultimo() == halvo::EventoExecucaoSemErro ? 0 : 1;
 }
