@@ -5,7 +5,7 @@
 #include "corvalin/execution/JanelaProgresso.h"
 #include "corvalin/execution/ListaPostos.h"
 #include "corvalin/execution/RegistroTexto.h"
-#include "corvalin/execution/TabelaPrevisoes.h"
+#include "corvalin/results/TabelaPrevisoes.h"
 #include "corvalin/frame/Mensagens.h"
 #include "corvalin/frame/Progresso.h"
 #include "corvalin/stations/Posto.h"

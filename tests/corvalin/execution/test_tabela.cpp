@@ -1,4 +1,4 @@
-#include "corvalin/execution/TabelaPrevisoes.h"
+#include "corvalin/results/TabelaPrevisoes.h"
 #include "corvalin/stations/Historico.h"
 #include "platform/runtime/Vetor.h"
 #include "tests/corvalin/execution/CasoExecucao.h"

@@ -1,4 +1,4 @@
-#include "corvalin/execution/TabelaPrevisoes.h"
+#include "corvalin/results/TabelaPrevisoes.h"
 
 #include "corvalin/frame/Mensagens.h"
 #include "corvalin/stations/Posto.h"
