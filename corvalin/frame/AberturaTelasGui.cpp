@@ -1,6 +1,7 @@
 #include "corvalin/frame/AberturaTelasGui.h"
 
 #include "corvalin/editors/FrmDadosGerais.h"
+#include "corvalin/editors/FrmLimites.h"
 #include "corvalin/execution/FrmExecutar.h"
 #include "corvalin/options/FrmOpcoes.h"
 #include "corvalin/results/FrmGrafico.h"
@@ -38,6 +39,7 @@ constexpr std::array Fabricas{
     Fabrica{"FrmGrafico", &pFaz<FrmGrafico>},
     Fabrica{"FrmResultados", &pFaz<FrmResultados>},
     Fabrica{"FrmDadosGerais", &pFaz<FrmDadosGerais>},
+    Fabrica{"FrmLimites", &pFaz<FrmLimites>},
     Fabrica{"FrmPostos", &pFaz<FrmPostos>},
     Fabrica{"FrmOpcoes", &pFaz<FrmOpcoes>},
 };
