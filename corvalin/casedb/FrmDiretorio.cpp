@@ -64,6 +64,8 @@ FrmDiretorio::FrmDiretorio(QWidget* pai)
     mPastas->setRootPath({});
     mDirDiretorio->setModel(mPastas);
     mDirDiretorio->setHeaderHidden(true);
+    mDirDiretorio->setSortingEnabled(true);
+    mDirDiretorio->sortByColumn(0, Qt::AscendingOrder);
     for (int coluna = 1; coluna < mPastas->columnCount(); ++coluna) {
         mDirDiretorio->hideColumn(coluna);
     }
@@ -115,8 +117,10 @@ QString FrmDiretorio::Caminho() const {
     return QDir::toNativeSeparators(caminho);
 }
 
+// As the folder lists of old: the chain down to the folder, and its subfolders.
 void FrmDiretorio::setCaminho(const QString& caminho) {
     const QModelIndex indice = mPastas->index(QDir::fromNativeSeparators(caminho));
+    mDirDiretorio->collapseAll();
     mDirDiretorio->setCurrentIndex(indice);
     mDirDiretorio->expand(indice);
     mDirDiretorio->scrollTo(indice);
