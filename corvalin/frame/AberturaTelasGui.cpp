@@ -1,6 +1,7 @@
 #include "corvalin/frame/AberturaTelasGui.h"
 
 #include "corvalin/editors/FrmDadosGerais.h"
+#include "corvalin/editors/FrmImporta.h"
 #include "corvalin/editors/FrmLimites.h"
 #include "corvalin/execution/FrmExecutar.h"
 #include "corvalin/options/FrmOpcoes.h"
@@ -40,6 +41,7 @@ constexpr std::array Fabricas{
     Fabrica{"FrmResultados", &pFaz<FrmResultados>},
     Fabrica{"FrmDadosGerais", &pFaz<FrmDadosGerais>},
     Fabrica{"FrmLimites", &pFaz<FrmLimites>},
+    Fabrica{"FrmImporta", &pFaz<FrmImporta>},
     Fabrica{"FrmPostos", &pFaz<FrmPostos>},
     Fabrica{"FrmOpcoes", &pFaz<FrmOpcoes>},
 };
