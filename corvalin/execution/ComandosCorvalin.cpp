@@ -136,6 +136,7 @@ int ComandosCorvalin::pValidarEExecutar(const QStringList& codigos, bool executa
     JanelaProgressoNula janela;
     assistente.pGerarArquivos(janela);
     pLinha(TituloExecucao);
+    registro.setMarcaAvisos(false);
     assistente.pExecutar();
     return notificador->Ultimo() == halvo::EventoExecucaoSemErro ? 0 : 1;
 }

@@ -8,7 +8,7 @@ void RegistroConsole::AdicionaLinha(const QString& texto, int estilo, bool, bool
     if (mInicioDeLinha) {
         if (estilo == Erro) {
             mSaida << QStringLiteral("ERRO: ");
-        } else if (estilo == Aviso) {
+        } else if (estilo == Aviso && mMarcaAvisos) {
             mSaida << QStringLiteral("AVISO: ");
         }
     }

@@ -41,17 +41,20 @@ private:
 };
 
 // Writes every line to a stream as it comes. A console has no colours, so errors and warnings
-// carry a mark in front; emptying has nothing to take back.
+// carry a mark in front; emptying has nothing to take back. The log of a run gives its station
+// headings the warning style: there that style marks nothing (setMarcaAvisos(false)).
 class RegistroConsole : public RegistroTexto {
 public:
     explicit RegistroConsole(QTextStream& saida) : mSaida(saida) {}
 
     void Limpa() override {}
     void AdicionaLinha(const QString& texto, int estilo, bool destaque, bool quebraLinha) override;
+    void setMarcaAvisos(bool marca) { mMarcaAvisos = marca; }
 
 private:
     QTextStream& mSaida;
     bool mInicioDeLinha = true;
+    bool mMarcaAvisos = true;
 };
 
 }  // namespace corvalin

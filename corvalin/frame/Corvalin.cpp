@@ -207,6 +207,7 @@ std::int16_t Corvalin::Executar(std::shared_ptr<halvo::Notificador> n) {
     };
     if (mSaidaDaExecucao) {
         RegistroConsole console(*mSaidaDaExecucao);
+        console.setMarcaAvisos(false);
         executa(console);
     } else {
         RegistroMemoria oculto;

@@ -52,8 +52,10 @@ Tipo tipoPorAfinidade(const QString& declarado) {
     return Tipo::Texto;
 }
 
+// Binary, as the check in Update is: the text collation ignores some characters (NUL among them),
+// which would make a text of them count as empty.
 QString restricaoComprimentoZero(const QString& campo) {
-    return QStringLiteral("CHECK (%1 <> '')").arg(sql::aspas(campo));
+    return QStringLiteral("CHECK (%1 <> '' COLLATE BINARY)").arg(sql::aspas(campo));
 }
 
 QString definicaoDoCampo(const FieldDef& campo) {

@@ -11,6 +11,8 @@ template <class... F>
 struct Sobrecarga : F... {
     using F::operator()...;
 };
+template <class... F>
+Sobrecarga(F...) -> Sobrecarga<F...>;
 
 // The old platform's true is all bits set.
 constexpr std::int64_t verdadeiro = -1;

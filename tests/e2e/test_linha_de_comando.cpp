@@ -51,8 +51,8 @@ QStringList pBlocos(const Saida& s) {
     QStringList blocos;
     const QStringList linhas = s.linhas();
     for (qsizetype i = 0; i + 1 < linhas.size(); ++i) {
-        if (linhas[i].startsWith(QStringLiteral("AVISO: Posto "))) {
-            blocos << linhas[i].mid(13) + QStringLiteral(": ") + linhas[i + 1];
+        if (linhas[i].startsWith(QStringLiteral("Posto "))) {
+            blocos << linhas[i].mid(6) + QStringLiteral(": ") + linhas[i + 1];
         }
     }
     return blocos;

@@ -151,6 +151,13 @@ TEST_F(Campos, EveryBrokenRuleRaisesTheEnginesErrorAndWritesNothing) {
     rs->setCampo(QStringLiteral("Livre"), QString());
     rs->Update();  // the buffer survives a failed Update, and a fixed one goes through
     EXPECT_EQ(contaLinhas(*rs), 2);
+
+    // Characters that the text order ignores still make a text that is not empty.
+    rs->AddNew();
+    rs->setCampo(QStringLiteral("Chave"), 3);
+    rs->setCampo(QStringLiteral("Nome"), QString(2, QChar(0)));
+    rs->Update();
+    EXPECT_EQ(contaLinhas(*rs), 3);
 }
 
 TEST_F(Campos, WritingNeedsAnAddNewOrAnEdit) {

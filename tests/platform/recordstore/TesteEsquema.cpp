@@ -91,7 +91,7 @@ TEST_F(Esquema, TheSqlite3ShellReadsTheSchemaNaturally) {
     }
     for (const char* trecho :
          {"\"CodigoDoPosto\" LONG,",
-          "\"NomeDoAproveitamento\" TEXT(60) COLLATE GERAL CHECK (\"NomeDoAproveitamento\" <> ''),",
+          "\"NomeDoAproveitamento\" TEXT(60) COLLATE GERAL CHECK (\"NomeDoAproveitamento\" <> '' COLLATE BINARY),",
           "\"AreaDeDrenagem\" SINGLE DEFAULT 0", "\"Ano\" INTEGER,", "\"Semana\" BYTE,",
           "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON \"Postos\" (\"CodigoDoPosto\");",
           "CREATE INDEX \"Postos.NomeDoAproveitamento\" ON \"Postos\" (\"NomeDoAproveitamento\");",
