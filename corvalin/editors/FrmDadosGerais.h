@@ -51,6 +51,7 @@ private:
     QWidget* pMontaExclusao();
     QWidget* pMontaVazpast();
     QWidget* pMontaAbas();
+    void pEntraNaAba();
     void pLigaAlteracoes();
     // A key handler of a text box, in the order the boxes take the keys.
     void pFiltra(QLineEdit& caixa, std::function<void(char16_t&)> filtro);

@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace corvalin {
@@ -55,7 +56,28 @@ QWidget* FrmDadosGerais::pMontaAbas() {
     mGiiDadosGerais->addTab(pMontaTransformacao(), QStringLiteral("  &2 - Transformação  "));
     mGiiDadosGerais->addTab(pMontaExclusao(), QStringLiteral("  &3 - Exclusão de Arquivos  "));
     mGiiDadosGerais->addTab(pMontaVazpast(), QStringLiteral("  &4 - Vazpast  "));
+    connect(mGiiDadosGerais, &QTabWidget::currentChanged, this, &FrmDadosGerais::pEntraNaAba);
     return mGiiDadosGerais;
+}
+
+// A tab chosen by its accelerator or the mouse takes the user to its first field (in a group of
+// options, the one chosen, as Tab would); one walked to on the tab bar leaves him there.
+void FrmDadosGerais::pEntraNaAba() {
+    QWidget* pagina = mGiiDadosGerais->currentWidget();
+    if (mGiiDadosGerais->tabBar()->hasFocus()) {
+        return;
+    }
+    for (QWidget* controle = pagina->nextInFocusChain(); controle != pagina;
+         controle = controle->nextInFocusChain()) {
+        // Of a group of options only one is a stop for Tab at a time; the chosen one is meant.
+        const auto* opcao = qobject_cast<const QRadioButton*>(controle);
+        const bool parada =
+            opcao != nullptr ? opcao->isChecked() : (controle->focusPolicy() & Qt::TabFocus) != 0;
+        if (pagina->isAncestorOf(controle) && controle->isEnabled() && parada) {
+            controle->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
 }
 
 QWidget* FrmDadosGerais::pMontaParametros() {

@@ -19,6 +19,7 @@
 #include <QLocale>
 #include <QPushButton>
 
+#include <algorithm>
 #include <array>
 #include <functional>
 #include <tuple>
@@ -34,6 +35,7 @@ constexpr int ColunaInferior = 1;
 constexpr int ColunaSuperior = 2;
 constexpr int TamanhoLimite = 4;
 constexpr std::array LargurasGrade{1000, 1300, 1300};
+constexpr int TwipsPorPixel = 15;
 constexpr float SemValor = -1.0F;
 
 QComboBox* pLista(QWidget& pai, const QString& nome, const QStringList& itens) {
@@ -163,8 +165,12 @@ void FrmLimites::pPrepararControles() {
     grade.setTextoMatriz(0, 0, QStringLiteral("Ordem"));
     grade.setTextoMatriz(0, ColunaInferior, QStringLiteral("Limite Inferior %"));
     grade.setTextoMatriz(0, ColunaSuperior, QStringLiteral("Limite Superior %"));
+    // The widths were meant for the titles; where the font makes a title wider, the column follows.
     for (std::size_t coluna = 0; coluna < LargurasGrade.size(); ++coluna) {
-        grade.setLarguraColuna(static_cast<int>(coluna), LargurasGrade[coluna]);
+        const int titulo = grade.fontMetrics().horizontalAdvance(
+            grade.TextoMatriz(0, static_cast<int>(coluna)) + QStringLiteral("MM"));
+        grade.setLarguraColuna(static_cast<int>(coluna),
+                               std::max(LargurasGrade[coluna], titulo * TwipsPorPixel));
     }
     grade.ColunaNumerica(ColunaInferior, TamanhoLimite);
     grade.ColunaNumerica(ColunaSuperior, TamanhoLimite);

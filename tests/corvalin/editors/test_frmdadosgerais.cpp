@@ -388,6 +388,60 @@ private slots:
         QCOMPARE(caso.host.dialogo.Mensagens()[0].icone, Icone::Erro);
     }
 
+    // By keyboard alone: Tab walks the screen in reading order, the tabs and the buttons answer
+    // to the accelerators of their captions.
+    void peloTeclado() {
+        teste::CasoDeTelas caso;
+        adiciona(caso, 101, QStringLiteral("Alfa"));
+        auto tela = teste::carrega<corvalin::FrmDadosGerais>(caso);
+        tela->show();
+        QVERIFY(QTest::qWaitForWindowActive(tela.get()));
+        controle<QWidget>(*tela, QStringLiteral("TxtDadosGeraisCodigo")).setFocus();
+        QStringList ordem;
+        for (int i = 0; i < 40; ++i) {
+            ordem << QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        const QStringList esperada{"TxtDadosGeraisCodigo",
+                                   "CBDDadosGerais",
+                                   "TxtDadosGeraisIntervaloConfianca",
+                                   "SpnDadosGeraisMesInicial",
+                                   "SpnDadosGeraisSemanaInicialPrev",
+                                   "TxtDadosGeraisAnoInicialPev",
+                                   "TxtDadosGeraisAnoFinalHistorico",
+                                   "ChkDadosGeraisImpressao",
+                                   "chkCasoUsa53Semanas",
+                                   "ChkDadosGeraisArquivosEntrada",
+                                   "TxtDadosGeraisArquivo_0",
+                                   "TxtDadosGeraisArquivo_1",
+                                   "ChkDadosGeraisUsaVazpast",
+                                   "TxtDadosGeraisArquivo_2",
+                                   "TxtDadosGeraisArquivo_4",
+                                   "BotDadosGeraisNavegacao_0",
+                                   "BotDadosGeraisNavegacao_3",
+                                   "BotDadosGeraisImportar",
+                                   Gravar,
+                                   "BotDadosGeraisSair"};
+        qsizetype anterior = -1;
+        for (const QString& nome : esperada) {
+            const qsizetype posicao = ordem.indexOf(nome);
+            QVERIFY2(posicao > anterior, qPrintable(nome));
+            anterior = posicao;
+        }
+        QVERIFY(!ordem.contains(QStringLiteral("TxtDadosGeraisArquivo_5")));
+
+        auto& abas = controle<QTabWidget>(*tela, QStringLiteral("GiiDadosGerais"));
+        QTest::keyClick(tela.get(), Qt::Key_2, Qt::AltModifier);
+        QCOMPARE(abas.currentIndex(), 1);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("OptDadosGeraisTransformacao_1"));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QCOMPARE(tela->getEstado(), corvalin::Tela::Alterado);
+        // A button's accelerator presses it as a click would, after a short show of its press.
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_G, Qt::AltModifier);
+        QTRY_COMPARE(tela->getEstado(), corvalin::Tela::Limpo);
+        QCOMPARE(teste::lePosto(caso, 101).Transformacao, 2);
+    }
+
     // A read-only case: the write buttons are off, typing changes nothing, leaving asks nothing.
     void casoSomenteLeitura() {
         teste::CasoDeTelas caso(true);
