@@ -61,6 +61,15 @@ void salva(QWidget& janela, const QString& arquivo) {
     QVERIFY(janela.grab().save(arquivo));
 }
 
+// The general data files of the sample stations.
+QStringList amostras() {
+    QStringList arquivos;
+    for (const QString& nome : QDir(Raiz + QStringLiteral("/samples")).entryList({QStringLiteral("*.arq")})) {
+        arquivos << QDir::toNativeSeparators(Raiz + QStringLiteral("/samples/") + nome);
+    }
+    return arquivos;
+}
+
 // The demo case in the host's window, with the folder the pictures go to.
 class Demo {
 public:
@@ -69,13 +78,8 @@ public:
     void prepara(bool executa) {
         destino = QDir(Raiz).absoluteFilePath(qEnvironmentVariable("CORVALIN_CAPTURAS"));
         QVERIFY(QDir().mkpath(destino));
-        QStringList amostras;
-        for (const QString& nome :
-             QDir(Raiz + QStringLiteral("/samples")).entryList({QStringLiteral("*.arq")})) {
-            amostras << Raiz + QStringLiteral("/samples/") + nome;
-        }
         QCOMPARE(comando({QStringLiteral("criar"), caso}), 0);
-        QCOMPARE(comando(QStringList{QStringLiteral("importar"), caso} + amostras), 0);
+        QCOMPARE(comando(QStringList{QStringLiteral("importar"), caso} + amostras()), 0);
         if (executa) {
             QCOMPARE(comando({QStringLiteral("assistente"), caso}), 0);
         }
@@ -195,6 +199,33 @@ private slots:
         const auto* pastas = diretorio.findChild<QTreeView*>(QStringLiteral("DirDiretorio"));
         QTRY_COMPARE(pastas->model()->rowCount(pastas->currentIndex()), 1);
         salva(diretorio, demo.destino + QStringLiteral("/frmdiretorio.png"));
+        QVERIFY(demo.dialogo.Mensagens().empty());
+    }
+
+    // The general data and the limits of a station that has limits, and the import assistant with
+    // the sample files listed.
+    void telasDeEdicao() {
+        Demo demo;
+        demo.prepara(false);
+        if (QTest::currentTestFailed()) {
+            return;
+        }
+        demo.abre({"acaoTela_1_2", "acaoTela_1_4", "acaoTela_2_1"});
+        QWidget& dadosGerais = tela(*demo.janela, QStringLiteral("FrmDadosGerais"));
+        vaiPara(dadosGerais, QStringLiteral("DadosGerais"), QStringLiteral("5054"));
+        dadosGerais.parentWidget()->resize(900, 470);
+        salva(*dadosGerais.parentWidget(), demo.destino + QStringLiteral("/frmdadosgerais.png"));
+
+        QWidget& limites = tela(*demo.janela, QStringLiteral("FrmLimites"));
+        vaiPara(limites, QStringLiteral("DadosGerais"), QStringLiteral("5054"));
+        limites.parentWidget()->resize(640, 520);
+        salva(*limites.parentWidget(), demo.destino + QStringLiteral("/frmlimites.png"));
+
+        QWidget& importa = tela(*demo.janela, QStringLiteral("FrmImporta"));
+        demo.dialogo.respondeArquivos(amostras());
+        importa.findChild<QPushButton*>(QStringLiteral("BotImportaSelecionar"))->click();
+        importa.parentWidget()->resize(720, 360);
+        salva(*importa.parentWidget(), demo.destino + QStringLiteral("/frmimporta.png"));
         QVERIFY(demo.dialogo.Mensagens().empty());
     }
 };
