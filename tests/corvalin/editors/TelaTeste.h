@@ -1,11 +1,14 @@
 #pragma once
 
-// What the user does on a screen, by the controls' names, for the tests of the editing screens.
+// What the user does on a screen and what he sees, by the controls' names, for the tests of the
+// editing screens.
 
+#include "halvo/controles/Spin.h"
 #include "tests/corvalin/frame/CasoDeTelas.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QtTest>
 
@@ -23,27 +26,56 @@ inline void digita(const QWidget& tela, const QString& nome, const QString& text
     QTest::keyClicks(&alvo, texto);
 }
 
-inline QString textoDe(const QWidget& tela, const QString& nome) {
-    return controle<QLineEdit>(tela, nome).text();
-}
-
 // Picks a line of a list with the keyboard, one step at a time.
 inline void escolhe(const QWidget& tela, const QString& nome, int linha) {
     auto& lista = controle<QComboBox>(tela, nome);
-    while (lista.currentIndex() < linha) {
-        QTest::keyClick(&lista, Qt::Key_Down);
-    }
-    while (lista.currentIndex() > linha) {
-        QTest::keyClick(&lista, Qt::Key_Up);
+    while (lista.currentIndex() != linha) {
+        QTest::keyClick(&lista, lista.currentIndex() < linha ? Qt::Key_Down : Qt::Key_Up);
     }
 }
 
-// The messages shown, as "title|text".
-inline QStringList mensagens(const DialogoRoteirizado& dialogo) {
+// What a control shows: its text, its caption, or "x" for a ticked box.
+inline QString valor(const QWidget& tela, const QString& nome) {
+    const auto& alvo = controle<QWidget>(tela, nome);
+    if (const auto* caixa = qobject_cast<const QLineEdit*>(&alvo)) {
+        return caixa->text();
+    }
+    if (const auto* spin = qobject_cast<const halvo::Spin*>(&alvo)) {
+        return spin->Texto();
+    }
+    if (const auto* rotulo = qobject_cast<const QLabel*>(&alvo)) {
+        return rotulo->text();
+    }
+    const auto& botao = controle<QAbstractButton>(tela, nome);
+    return botao.isCheckable() ? (botao.isChecked() ? QStringLiteral("x") : QString()) : botao.text();
+}
+
+inline QStringList valores(const QWidget& tela, std::initializer_list<const char*> nomes) {
+    QStringList textos;
+    for (const char* nome : nomes) {
+        textos << valor(tela, QString::fromLatin1(nome));
+    }
+    return textos;
+}
+
+// The names among nomes whose controls are enabled.
+inline QStringList habilitados(const QWidget& tela, std::initializer_list<const char*> nomes) {
+    QStringList abertos;
+    for (const char* nome : nomes) {
+        if (controle<QWidget>(tela, QString::fromLatin1(nome)).isEnabled()) {
+            abertos << QString::fromLatin1(nome);
+        }
+    }
+    return abertos;
+}
+
+// The messages shown, as "title|text", and forgets them.
+inline QStringList mensagens(DialogoRoteirizado& dialogo) {
     QStringList textos;
     for (const auto& mensagem : dialogo.Mensagens()) {
         textos << mensagem.titulo + u'|' + mensagem.texto;
     }
+    dialogo.limpa();
     return textos;
 }
 

@@ -7,18 +7,22 @@
 
 #include <QDir>
 #include <QFile>
-#include <QLabel>
 #include <QListWidget>
-#include <QProgressBar>
-#include <QPushButton>
 #include <QTextBlock>
 
 using teste::clica;
 using teste::controle;
+using teste::valor;
+using teste::valores;
 
 namespace {
 
 const QString Avancar = QStringLiteral("BotImportaAvancar");
+// What each page says, and what it shows.
+const auto Textos = {"LblImporta", "BotImportaAvancar", "BotImportaCancela"};
+const auto Controles = {"LstImporta",           "BotImportaSelecionar",   "TxtImporta",
+                        "LblImportaStatusNome", "LblImportaStatusNumero", "PrgImporta",
+                        "BotImportaVoltar",     "BotImportaAvancar",      "BotImportaCancela"};
 
 // The station files of the tests' data, in a folder of the test, ending in the separator.
 QString copiaDados(const teste::CasoDeTelas& caso) {
@@ -54,16 +58,15 @@ QStringList relatorio(const QWidget& tela) {
     return textos;
 }
 
-bool visivel(const QWidget& tela, const QString& nome) {
-    return controle<QWidget>(tela, nome).isVisibleTo(&tela);
-}
-
-QString legenda(const QWidget& tela, const QString& nome) {
-    return controle<QAbstractButton>(tela, nome).text();
-}
-
-QString rotulo(const QWidget& tela, const QString& nome) {
-    return controle<QLabel>(tela, nome).text();
+// The names among nomes whose controls the page shows.
+QStringList visiveis(const QWidget& tela, std::initializer_list<const char*> nomes) {
+    QStringList vistos;
+    for (const char* nome : nomes) {
+        if (controle<QWidget>(tela, QString::fromLatin1(nome)).isVisibleTo(&tela)) {
+            vistos << QString::fromLatin1(nome);
+        }
+    }
+    return vistos;
 }
 
 }  // namespace
@@ -82,12 +85,11 @@ private slots:
         auto tela = teste::carrega<corvalin::FrmImporta>(caso);
         tela->show();
         QCOMPARE(tela->windowTitle(), QStringLiteral("Assistente de Importação"));
-        QCOMPARE(rotulo(*tela, QStringLiteral("LblImporta")),
-                 QStringLiteral("Selecione os arquivos de Dados Gerais dos Postos a serem importados:"));
-        QVERIFY(!visivel(*tela, QStringLiteral("TxtImporta")));
-        QVERIFY(!visivel(*tela, QStringLiteral("BotImportaVoltar")));
-        QCOMPARE(legenda(*tela, Avancar), QStringLiteral("&Avançar >"));
-        QCOMPARE(legenda(*tela, QStringLiteral("BotImportaCancela")), QStringLiteral("&Cancela"));
+        QCOMPARE(valores(*tela, Textos),
+                 (QStringList{"Selecione os arquivos de Dados Gerais dos Postos a serem importados:",
+                              "&Avançar >", "&Cancela"}));
+        QCOMPARE(visiveis(*tela, Controles), (QStringList{"LstImporta", "BotImportaSelecionar",
+                                                          "BotImportaAvancar", "BotImportaCancela"}));
 
         caso.host.dialogo.respondeArquivos({alfa, beta});
         caso.host.dialogo.respondeArquivos({beta, pasta + QStringLiteral("Vazpast.dat")});
@@ -98,39 +100,30 @@ private slots:
         auto& lista = controle<QListWidget>(*tela, QStringLiteral("LstImporta"));
         lista.setCurrentRow(2);
         QTest::keyClick(&lista, Qt::Key_Delete);
-        QCOMPARE(linhas(*tela), (QStringList{alfa, beta}));
         lista.clearSelection();
         QTest::keyClick(&lista, Qt::Key_Delete);
-        QCOMPARE(linhas(*tela).size(), 2);
+        QCOMPARE(linhas(*tela), (QStringList{alfa, beta}));
 
+        clica(*tela, Avancar);
+        QCOMPARE(valores(*tela, Textos),
+                 (QStringList{"Os arquivos foram encontrados. Clique em 'Iniciar' para iniciar a importação.",
+                              "&Iniciar", "&Cancela"}));
+        QCOMPARE(visiveis(*tela, Controles),
+                 (QStringList{"BotImportaVoltar", "BotImportaAvancar", "BotImportaCancela"}));
+        QCOMPARE(teste::habilitados(*tela, {"BotImportaAvancar"}).size(), 1);
+        clica(*tela, QStringLiteral("BotImportaVoltar"));
+        QCOMPARE(valor(*tela, Avancar), QStringLiteral("&Avançar >"));
+        QCOMPARE(linhas(*tela), (QStringList{alfa, beta}));
+
+        clica(*tela, Avancar);
         clica(*tela, Avancar);
         QCOMPARE(
-            rotulo(*tela, QStringLiteral("LblImporta")),
-            QStringLiteral("Os arquivos foram encontrados. Clique em 'Iniciar' para iniciar a importação."));
-        QVERIFY(!visivel(*tela, QStringLiteral("LstImporta")));
-        QVERIFY(!visivel(*tela, QStringLiteral("BotImportaSelecionar")));
-        QVERIFY(!visivel(*tela, QStringLiteral("TxtImporta")));
-        QVERIFY(visivel(*tela, QStringLiteral("BotImportaVoltar")));
-        QCOMPARE(legenda(*tela, Avancar), QStringLiteral("&Iniciar"));
-        QVERIFY(controle<QWidget>(*tela, Avancar).isEnabled());
-        clica(*tela, QStringLiteral("BotImportaVoltar"));
-        QVERIFY(visivel(*tela, QStringLiteral("LstImporta")));
-        QCOMPARE(linhas(*tela), (QStringList{alfa, beta}));
-        QCOMPARE(legenda(*tela, Avancar), QStringLiteral("&Avançar >"));
-
-        clica(*tela, Avancar);
-        clica(*tela, Avancar);
-        QCOMPARE(rotulo(*tela, QStringLiteral("LblImporta")),
-                 QStringLiteral(
-                     "Importação concluída com sucesso. Clique em 'Fechar' para encerrar o Assistente."));
-        for (const char* nome : {"TxtImporta", "BotImportaVoltar", "BotImportaAvancar",
-                                 "LblImportaStatusNome", "LblImportaStatusNumero", "PrgImporta"}) {
-            QVERIFY2(!visivel(*tela, QString::fromLatin1(nome)), nome);
-        }
-        QCOMPARE(rotulo(*tela, QStringLiteral("LblImportaStatusNome")), beta);
-        QCOMPARE(rotulo(*tela, QStringLiteral("LblImportaStatusNumero")), QStringLiteral("Arquivo 2 de 2"));
-        QCOMPARE(legenda(*tela, QStringLiteral("BotImportaCancela")), QStringLiteral("&Fechar"));
-        QVERIFY(controle<QWidget>(*tela, QStringLiteral("BotImportaCancela")).isEnabled());
+            valores(*tela,
+                    {"LblImporta", "BotImportaCancela", "LblImportaStatusNome", "LblImportaStatusNumero"}),
+            (QStringList{"Importação concluída com sucesso. Clique em 'Fechar' para encerrar o Assistente.",
+                         "&Fechar", beta, "Arquivo 2 de 2"}));
+        QCOMPARE(visiveis(*tela, Controles), QStringList{QStringLiteral("BotImportaCancela")});
+        QCOMPARE(teste::habilitados(*tela, {"BotImportaCancela"}).size(), 1);
         QCOMPARE(teste::lePosto(caso, 101).Nome, QStringLiteral("Rio Alfa em Primeira"));
         QCOMPARE(teste::lePosto(caso, 202).Nome, QStringLiteral("Rio Beta em São José"));
         QCOMPARE(caso.notificador->Eventos(), std::vector<std::int32_t>{halvo::EventoImportacaoConcluida});
@@ -147,23 +140,23 @@ private slots:
         const QString pasta = copiaDados(caso);
         auto tela = teste::carrega<corvalin::FrmImporta>(caso);
         clica(*tela, Avancar);
-        QCOMPARE(rotulo(*tela, QStringLiteral("LblImporta")),
+        QCOMPARE(valor(*tela, QStringLiteral("LblImporta")),
                  QStringLiteral("Foram encontrados alguns problemas nos arquivos selecionados:"));
-        QVERIFY(visivel(*tela, QStringLiteral("TxtImporta")));
+        QCOMPARE(visiveis(*tela, Controles),
+                 (QStringList{"TxtImporta", "BotImportaVoltar", "BotImportaAvancar", "BotImportaCancela"}));
+        QCOMPARE(teste::habilitados(*tela, {"BotImportaVoltar", "BotImportaAvancar", "BotImportaCancela"}),
+                 (QStringList{"BotImportaVoltar", "BotImportaCancela"}));
         QCOMPARE(relatorio(*tela), QStringList{QStringLiteral("!Não foi encontrado nenhum arquivo.")});
-        QVERIFY(!controle<QWidget>(*tela, Avancar).isEnabled());
-        QVERIFY(controle<QWidget>(*tela, QStringLiteral("BotImportaCancela")).isEnabled());
 
         clica(*tela, QStringLiteral("BotImportaVoltar"));
-        QVERIFY(!visivel(*tela, QStringLiteral("TxtImporta")));
-        QVERIFY(controle<QWidget>(*tela, Avancar).isEnabled());
+        QVERIFY(!visiveis(*tela, Controles).contains(QStringLiteral("TxtImporta")));
         QFile::remove(pasta + QStringLiteral("101.dat"));
         caso.host.dialogo.respondeArquivos({pasta + QStringLiteral("101.arq")});
         clica(*tela, QStringLiteral("BotImportaSelecionar"));
         clica(*tela, Avancar);
         QCOMPARE(relatorio(*tela), (QStringList{QStringLiteral("!Arquivo de Vazões Semanais não encontrado."),
                                                 pasta + QStringLiteral("101.arq")}));
-        QVERIFY(!controle<QWidget>(*tela, Avancar).isEnabled());
+        QVERIFY(teste::habilitados(*tela, {"BotImportaAvancar"}).isEmpty());
     }
 
     // A file that fails during the import is reported on the last page, which then has only
@@ -176,17 +169,13 @@ private slots:
         caso.host.dialogo.respondeArquivos({pasta + QStringLiteral("202.arq")});
         clica(*tela, QStringLiteral("BotImportaSelecionar"));
         clica(*tela, Avancar);
-        QVERIFY(controle<QWidget>(*tela, Avancar).isEnabled());
         clica(*tela, Avancar);
-
-        QCOMPARE(rotulo(*tela, QStringLiteral("LblImporta")),
-                 QStringLiteral("Ocorreram alguns problemas durante a importação:"));
-        QVERIFY(visivel(*tela, QStringLiteral("TxtImporta")));
+        QCOMPARE(valores(*tela, {"LblImporta", "BotImportaCancela"}),
+                 (QStringList{"Ocorreram alguns problemas durante a importação:", "&Fechar"}));
+        QCOMPARE(visiveis(*tela, Controles), (QStringList{"TxtImporta", "BotImportaCancela"}));
         QCOMPARE(relatorio(*tela), (QStringList{QStringLiteral("!Erro na leitura do arquivo de Vazpasts."),
                                                 pasta + QStringLiteral("202.arq")}));
-        QVERIFY(!visivel(*tela, QStringLiteral("BotImportaAvancar")));
-        QCOMPARE(legenda(*tela, QStringLiteral("BotImportaCancela")), QStringLiteral("&Fechar"));
-        QVERIFY(controle<QWidget>(*tela, QStringLiteral("BotImportaCancela")).isEnabled());
+        QCOMPARE(teste::habilitados(*tela, {"BotImportaCancela"}).size(), 1);
     }
 };
 
