@@ -52,8 +52,9 @@ private:
     QWidget* pMontaVazpast();
     QWidget* pMontaAbas();
     void pEntraNaAba();
+    // What the user's changes and keys do (FrmDadosGeraisEventos.cpp).
     void pLigaAlteracoes();
-    // A key handler of a text box, in the order the boxes take the keys.
+    // A key handler of a text box: it sees each character typed and refuses it by setting it to 0.
     void pFiltra(QLineEdit& caixa, std::function<void(char16_t&)> filtro);
 
     void pHabilitaArquivosEntrada();
