@@ -225,7 +225,6 @@ QWidget* FrmOpcoes::pAbaDiversos() {
 }
 
 void FrmOpcoes::pCarregar() {
-    opcoesBD();
     // Filling the lists is the screen's own doing, not a change.
     setEstado(Preenchendo);
     for (std::size_t i = 0; i < Arquivos; ++i) {

@@ -74,7 +74,7 @@ private:
 };
 
 // "Área de Drenagem (km  )" with its exponent, a label of its own, over the gap left for it.
-QWidget* pRotuloDaArea(QWidget& pai) {
+QLabel* pRotuloDaArea(QWidget& pai) {
     const QString texto = QStringLiteral("Área de Drenagem (km  )");
     auto* rotulo = new QLabel(texto, &pai);
     rotulo->setObjectName(QStringLiteral("LblPostosArea_0"));
@@ -100,11 +100,11 @@ FrmPostos::FrmPostos(QWidget* pai)
       mSpnAno{new halvo::Spin(this), new halvo::Spin(this)},
       mGrade(new halvo::Grid(this)) {
     auto* corpo = new QWidget(this);
-    QWidget* rotuloDaArea = pRotuloDaArea(*corpo);
+    QLabel* rotuloDaArea = pRotuloDaArea(*corpo);
     mTxtArea->setParent(corpo);
     mTxtArea->setObjectName(QStringLiteral("TxtPostosArea"));
     mTxtArea->setMaximumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 14);
-    static_cast<QLabel*>(rotuloDaArea)->setBuddy(mTxtArea);
+    rotuloDaArea->setBuddy(mTxtArea);
     auto* linhaDaArea = new QHBoxLayout;
     linhaDaArea->addWidget(rotuloDaArea, 0, Qt::AlignVCenter);
     linhaDaArea->addWidget(mTxtArea);
