@@ -4,6 +4,9 @@
 #include "corvalin/stations/PostoBD.h"
 #include "corvalin/stations/TabelasPosto.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace corvalin {
 
 using recordstore::Recordset;
@@ -32,28 +35,26 @@ bool PostoBD::getHistorico(const Posto& posto, Historico& vazoes) const {
     return leu;
 }
 
-// The old rows go first and there is no merging. All in one transaction: a failure half-way (an
-// array smaller than the record's years) leaves the old history in place.
+// The old rows go first and there is no merging; weeks are written in the index's order, one row
+// for each week with a value (the fields in the table's order: station, year, week, flow). All in
+// one transaction: a failure half-way (an array smaller than the record's years) leaves the old
+// history in place.
 void PostoBD::setHistorico(const Posto& posto, const Historico& vazoes) {
     const casoBD& bd = tabelas::caso(mCasoBD);
     recordstore::Transacao transacao(bd.BancoDeDados());
     pApagarHistorico(posto.Codigo);
-    Recordset& tabela = bd.TabVazoesSemanais();
     const int semanas = posto.getNumSemanas();
+    std::vector<std::vector<recordstore::Valor>> linhas;
+    linhas.reserve(static_cast<std::size_t>(std::max(posto.AnoFinal - posto.AnoInicial + 1, 0) * semanas));
     for (int ano = posto.AnoInicial; ano <= posto.AnoFinal; ++ano) {
         for (int semana = 1; semana <= semanas; ++semana) {
             const float vazao = vazoes(ano - posto.AnoInicial + 1, semana);
-            if (vazao == 0.0f) {
-                continue;  // a missing week has no row
+            if (vazao != 0.0f) {  // a missing week has no row
+                linhas.push_back({posto.Codigo, ano, semana, vazao});
             }
-            tabela.AddNew();
-            tabela.setCampo(tabelas::CodigoDoPosto, posto.Codigo);
-            tabela.setCampo(tabelas::Ano, ano);
-            tabela.setCampo(tabelas::Semana, semana);
-            tabela.setCampo(tabelas::Vazao, vazao);
-            tabela.Update();
         }
     }
+    bd.TabVazoesSemanais().AddNewRows(linhas);
     transacao.Commit();
 }
 

@@ -5,23 +5,60 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 #include <sqlite3.h>
 
 namespace recordstore {
 
 namespace {
 
-QString sqlInsere(const MetaTabela& tabela) {
+// Rows per statement of a batch insert: each statement costs about as much as the rows it
+// writes, so fewer, longer statements halve the time; SQLite's oldest limit of 999 parameters
+// bounds the length.
+constexpr std::size_t MaximoLinhasPorComando = 64;
+constexpr std::size_t MaximoParametros = 999;
+
+QString sqlInsere(const MetaTabela& tabela, std::size_t linhas = 1) {
     QStringList campos;
     QStringList parametros;
     for (const auto& campo : tabela.campos) {
         campos << sql::aspas(campo.Name);
         parametros << QStringLiteral("?");
     }
-    return QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-        .arg(sql::aspas(tabela.nome), campos.join(QStringLiteral(", ")),
-             parametros.join(QStringLiteral(", ")));
+    const QString linha = QLatin1Char('(') + parametros.join(QStringLiteral(", ")) + QLatin1Char(')');
+    QStringList valores;
+    for (std::size_t i = 0; i < linhas; ++i) {
+        valores << linha;
+    }
+    return QStringLiteral("INSERT INTO %1 (%2) VALUES %3")
+        .arg(sql::aspas(tabela.nome), campos.join(QStringLiteral(", ")), valores.join(QStringLiteral(", ")));
 }
+
+// A savepoint for the length of a scope: released by confirma, rolled back otherwise.
+class PontoDeSalvamento {
+public:
+    explicit PontoDeSalvamento(Conexao& conexao) : mConexao(conexao) { mConexao.iniciaTransacao(); }
+    ~PontoDeSalvamento() {
+        if (mAtivo) {
+            try {
+                mConexao.reverteTransacao();
+            } catch (...) {
+                // The error that brought us here is the one to report.
+            }
+        }
+    }
+    PontoDeSalvamento(const PontoDeSalvamento&) = delete;
+    PontoDeSalvamento& operator=(const PontoDeSalvamento&) = delete;
+    void confirma() {
+        mConexao.confirmaTransacao();
+        mAtivo = false;
+    }
+
+private:
+    Conexao& mConexao;
+    bool mAtivo = true;
+};
 
 QString sqlAtualiza(const MetaTabela& tabela) {
     QStringList atribuicoes;
@@ -112,6 +149,45 @@ void Edicao::exclui(std::int64_t rowid) {
     sql::reinicia(q);
     mTabela.escreveu();
     mAtiva = false;
+}
+
+void Edicao::insereLinhas(const std::vector<std::vector<Valor>>& linhas) {
+    const MetaTabela& meta = mTabela.meta();
+    const std::size_t numCampos = meta.campos.size();
+    // Every row is converted and checked before anything is written.
+    std::vector<ValorSql> valores;
+    valores.reserve(linhas.size() * numCampos);
+    for (const auto& linha : linhas) {
+        if (linha.size() != numCampos) {
+            throw erroBD(ErroArgumentoInvalido);
+        }
+        for (std::size_t i = 0; i < numCampos; ++i) {
+            const Valor convertido = campos::converte(meta.campos[i], linha[i]);
+            if (campos::recusaComprimentoZero(meta.campos[i], convertido)) {
+                throw erroBD(ErroComprimentoZero, meta.nome + QLatin1Char('.') + meta.campos[i].Name);
+            }
+            valores.push_back(campos::paraSql(meta.campos[i], convertido));
+        }
+    }
+    Conexao& conexao = mTabela.conexao();
+    conexao.antesDeEscrever();
+    PontoDeSalvamento salvamento(conexao);
+    const std::size_t porComando = std::clamp<std::size_t>(MaximoParametros / std::max<std::size_t>(numCampos, 1),
+                                                          1, MaximoLinhasPorComando);
+    for (std::size_t inicio = 0; inicio < linhas.size(); inicio += porComando) {
+        const std::size_t quantas = std::min(porComando, linhas.size() - inicio);
+        ChaveComando chave = mTabela.chave(TipoComando::InsereLote);
+        chave.variante = static_cast<unsigned>(quantas);
+        sqlite3_stmt* q = conexao.comando(chave, [&] { return sqlInsere(meta, quantas); });
+        const std::size_t primeiro = inicio * numCampos;
+        for (std::size_t p = 0; p < quantas * numCampos; ++p) {
+            sql::liga(q, static_cast<int>(p) + 1, valores[primeiro + p]);
+        }
+        sql::passo(q);
+        sql::reinicia(q);
+    }
+    salvamento.confirma();
+    mTabela.escreveu();
 }
 
 void Edicao::pInicia(bool nova, std::int64_t rowid, std::vector<Valor> valores) {

@@ -26,6 +26,7 @@ public:
     void descarta() { mAtiva = false; }
 
     void exclui(std::int64_t rowid);
+    void insereLinhas(const std::vector<std::vector<Valor>>& linhas);  // 3001, the field rules, 3022
 
 private:
     void pInicia(bool nova, std::int64_t rowid, std::vector<Valor> valores);

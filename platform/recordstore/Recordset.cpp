@@ -113,6 +113,10 @@ void Recordset::CancelUpdate() {
     m->verificado().edicao.cancela();
 }
 
+void Recordset::AddNewRows(const std::vector<std::vector<Valor>>& linhas) {
+    m->verificado().edicao.insereLinhas(linhas);
+}
+
 void Recordset::Delete() {
     Estado& e = m->verificado();
     e.edicao.exclui(e.cursor.atual().rowid);

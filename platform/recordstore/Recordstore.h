@@ -163,6 +163,11 @@ public:
     // field refuses it; 3022 for a duplicate in a primary index. Nothing is written on failure.
     void Update();
     void CancelUpdate();
+    // Many AddNew + Update in one go: each row gives every field in the table's order. Every rule
+    // of Update holds for every row, and a failure writes none of them; the current record stays.
+    // The old layer wrote one row at a time; this writes many rows per statement, for the long
+    // histories that a station's save or import writes at once.
+    void AddNewRows(const std::vector<std::vector<Valor>>& linhas);
     void Delete();  // 3021 without a current record
     void Close();
     // Clone: another handle on the same table and file, with the same current index, standing on

@@ -18,7 +18,7 @@ struct Linha {
 };
 
 // Statement kinds of a handle, for the statement cache.
-enum class TipoComando : int { Caminho, PorRowid, Vazia, Insere, Atualiza, Exclui };
+enum class TipoComando : int { Caminho, PorRowid, Vazia, Insere, InsereLote, Atualiza, Exclui };
 
 class Tabela {
 public:

@@ -170,3 +170,49 @@ TEST_F(Campos, WritingNeedsAnAddNewOrAnEdit) {
     EXPECT_EQ(numeroDoErro([&] { rs->Update(); }), 3020);
     EXPECT_TRUE(rs->Bof() && rs->Eof());
 }
+
+namespace {
+
+// A row of the Tipos table with its key, a byte and a name; the other fields Null.
+std::vector<Valor> linha(int chave, const Valor& octeto, const Valor& nome) {
+    return {chave, Valor(), octeto, Valor(), Valor(), Valor(), Valor(), nome, Valor()};
+}
+
+TEST_F(Campos, ManyRowsAtOnceKeepEveryRuleWriteAllOrNoneAndLeaveTheCurrentRecord) {
+    rs->AddNew();
+    rs->setCampo(QStringLiteral("Chave"), 1000);
+    rs->Update();
+    rs->MoveFirst();
+
+    std::vector<std::vector<Valor>> linhas;
+    for (int i = 1; i <= 150; ++i) {  // more rows than one statement takes
+        linhas.push_back(linha(i, i % 256, QStringLiteral("n%1").arg(i % 100)));
+    }
+    rs->AddNewRows(linhas);
+    EXPECT_EQ(rs->campo(QStringLiteral("Chave")).paraInteiro(), 1000) << "the current record stays";
+    EXPECT_EQ(contaLinhas(*rs), 151);
+    rs->setIndex(QStringLiteral("Chave"));
+    rs->Seek(QStringLiteral("="), {150});
+    ASSERT_FALSE(rs->NoMatch());
+    EXPECT_EQ(rs->campo(QStringLiteral("Octeto")).paraInteiro(), 150);
+    EXPECT_EQ(rs->campo(QStringLiteral("Nome")).paraTexto(), QStringLiteral("n50"));
+
+    // A broken rule anywhere, in the first statement or the last, writes none of the rows.
+    const auto falha = [&](std::vector<Valor> ruim, std::size_t onde) {
+        std::vector<std::vector<Valor>> lote;
+        for (int i = 0; i < 130; ++i) {
+            lote.push_back(linha(2000 + i, 1, QStringLiteral("x")));
+        }
+        lote[onde] = std::move(ruim);
+        const int erro = numeroDoErro([&] { rs->AddNewRows(lote); });
+        EXPECT_EQ(contaLinhas(*rs), 151);
+        return erro;
+    };
+    EXPECT_EQ(falha(linha(3000, 256, QStringLiteral("x")), 3), 6);
+    EXPECT_EQ(falha(linha(3000, 1, QStringLiteral("longo demais")), 129), 3163);
+    EXPECT_EQ(falha(linha(3000, 1, QString()), 64), 3315);
+    EXPECT_EQ(falha(linha(7, 1, QStringLiteral("x")), 128), 3022) << "a key that is already there";
+    EXPECT_EQ(falha({2999}, 0), 3001) << "a row without every field";
+}
+
+}  // namespace
