@@ -32,22 +32,6 @@ constexpr double AnoMinimo = 1900;
 constexpr double AnoMaximo = 2200;
 constexpr double IntervaloMaximo = 100;
 
-// The progress form for the length of one import, unloaded however the import ends.
-class BarraDeImportacao {
-public:
-    BarraDeImportacao() {
-        FrmBarraDeProgresso& formulario = FrmBarraDeProgresso::Instancia();
-        formulario.setWindowTitle(msgImportandoArquivo);
-        formulario.show();
-        formulario.Atualizar();
-    }
-    ~BarraDeImportacao() { FrmBarraDeProgresso::Descarregar(); }
-    BarraDeImportacao(const BarraDeImportacao&) = delete;
-    BarraDeImportacao& operator=(const BarraDeImportacao&) = delete;
-
-    Progresso& Barra() const { return FrmBarraDeProgresso::Instancia().Barra(); }
-};
-
 // A number that 0 leaves unset shows as nothing.
 QString pTextoOuVazio(std::int32_t valor) {
     return valor == 0 ? QString() : QString::number(valor);
@@ -315,7 +299,7 @@ void FrmDadosGerais::pImportar() {
     }
     bool importou = false;
     {
-        const BarraDeImportacao barra;
+        const ProgressoDaOperacao barra(msgImportandoArquivo);
         QString erros;
         importou = PostoARQ().importaDadosGerais(caminho, posto, postoBD(), erros, barra.Barra(), false);
     }

@@ -61,4 +61,13 @@ void FrmBarraDeProgresso::ProgressoDaBarra::setValue(double valor) {
     mFormulario.mBarra->setValue(static_cast<int>(std::lround(valor)));
 }
 
+ProgressoDaOperacao::ProgressoDaOperacao(const QString& legenda) {
+    FrmBarraDeProgresso& formulario = FrmBarraDeProgresso::Instancia();
+    formulario.setWindowTitle(legenda);
+    formulario.show();
+    formulario.Atualizar();
+}
+
+ProgressoDaOperacao::~ProgressoDaOperacao() { FrmBarraDeProgresso::Descarregar(); }
+
 }  // namespace corvalin

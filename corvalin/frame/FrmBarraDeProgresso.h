@@ -47,4 +47,16 @@ private:
     ProgressoDaBarra mProgresso{*this};
 };
 
+// The progress form for the length of one operation: loaded with the operation's caption, shown
+// and painted at once, unloaded however the operation ends.
+class ProgressoDaOperacao {
+public:
+    explicit ProgressoDaOperacao(const QString& legenda);
+    ~ProgressoDaOperacao();
+    ProgressoDaOperacao(const ProgressoDaOperacao&) = delete;
+    ProgressoDaOperacao& operator=(const ProgressoDaOperacao&) = delete;
+
+    Progresso& Barra() const { return FrmBarraDeProgresso::Instancia().Barra(); }
+};
+
 }  // namespace corvalin

@@ -3,6 +3,7 @@
 #include "corvalin/frame/Mensagens.h"
 #include "corvalin/options/OpcoesBD.h"
 #include "corvalin/stations/PostoBD.h"
+#include "halvo/controles/MDIcontrol.h"
 #include "halvo/sdk/Caso.h"
 #include "halvo/sdk/Notificador.h"
 #include "halvo/sdk/ServicoDialogo.h"
@@ -29,6 +30,8 @@ T& pObjeto(const std::shared_ptr<T>& objeto) {
 Tela::Tela(const QString& nome, const QString& titulo, QWidget* pai) : QWidget(pai) {
     setObjectName(nome);
     setWindowTitle(titulo);
+    // The host's marker that every screen of a model carries.
+    (new halvo::MDIcontrol(this))->setObjectName(QStringLiteral("MDIcontrol1"));
 }
 
 Tela::~Tela() {

@@ -45,22 +45,6 @@ QPushButton* pBotao(QWidget& pai, const QString& nome, const QString& texto) {
     return botao;
 }
 
-// The progress form for the length of an import, unloaded however the import ends.
-class BarraDeImportacao {
-public:
-    BarraDeImportacao() {
-        FrmBarraDeProgresso& formulario = FrmBarraDeProgresso::Instancia();
-        formulario.setWindowTitle(Mensagens::msgImportandoArquivo);
-        formulario.show();
-        formulario.Atualizar();
-    }
-    ~BarraDeImportacao() { FrmBarraDeProgresso::Descarregar(); }
-    BarraDeImportacao(const BarraDeImportacao&) = delete;
-    BarraDeImportacao& operator=(const BarraDeImportacao&) = delete;
-
-    Progresso& Barra() const { return FrmBarraDeProgresso::Instancia().Barra(); }
-};
-
 // Painting stops while the grid fills, and comes back however the filling ends.
 class GradeSemDesenho {
 public:
@@ -332,7 +316,7 @@ void FrmPostos::pImportar() {
     Posto posto;
     bool importou = false;
     {
-        const BarraDeImportacao barra;
+        const ProgressoDaOperacao barra(Mensagens::msgImportandoArquivo);
         importou = PostoARQ().importaVazoesSemanais(arquivo, erros, barra.Barra(), posto, postoBD(),
                                                     opcoesBD(), false, false);
     }

@@ -84,6 +84,7 @@ private slots:
         QCOMPARE(caso.host.sistema.Filhas.size(), std::size_t{1});
         QPointer<QWidget> tela = caso.host.sistema.Filhas.front();
         QCOMPARE(tela->objectName(), QStringLiteral("FrmPrevisoes"));
+        QVERIFY(tela->findChild<QWidget*>(QStringLiteral("MDIcontrol1")) != nullptr);
         QCOMPARE(caso.host.sistema.Registradas, caso.host.sistema.Filhas);
         QCOMPARE(tela->windowTitle(), QStringLiteral("Previsões (Caso)"));
         QVERIFY(tela->isVisible());
