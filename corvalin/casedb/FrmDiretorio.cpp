@@ -1,5 +1,6 @@
 #include "corvalin/casedb/FrmDiretorio.h"
 
+#include "corvalin/frame/Controle.h"
 #include "corvalin/frame/Geral.h"
 #include "corvalin/frame/Mensagens.h"
 #include "halvo/sdk/ServicoDialogo.h"
@@ -32,13 +33,6 @@ constexpr int TwipsPorPixel = 15;
 // Characters that would make the new name a path or a pattern rather than one folder.
 const QString CaracteresRecusados = QStringLiteral("./\\?*");
 
-template <class T>
-T* pControle(QWidget& pai, const QString& nome) {
-    auto* controle = new T(&pai);
-    controle->setObjectName(nome);
-    return controle;
-}
-
 void pErro(const QString& texto) {
     halvo::Servicos::dialogo().Mensagem(texto, Mensagens::msgTituloErro, halvo::Icone::Erro);
 }
@@ -47,12 +41,12 @@ void pErro(const QString& texto) {
 
 FrmDiretorio::FrmDiretorio(QWidget* pai)
     : QDialog(pai),
-      mDrvDiretorio(pControle<QComboBox>(*this, QStringLiteral("DrvDiretorio"))),
+      mDrvDiretorio(Controle<QComboBox>(*this, QStringLiteral("DrvDiretorio"))),
       mPastas(new QFileSystemModel(this)),
-      mDirDiretorio(pControle<QTreeView>(*this, QStringLiteral("DirDiretorio"))),
-      mFmeDiretorio(pControle<QGroupBox>(*this, QStringLiteral("FmeDiretorio"))),
-      mChkDiretorio(pControle<QCheckBox>(*mFmeDiretorio, QStringLiteral("ChkDiretorio"))),
-      mTxtDiretorio(pControle<QLineEdit>(*mFmeDiretorio, QStringLiteral("TxtDiretorio"))) {
+      mDirDiretorio(Controle<QTreeView>(*this, QStringLiteral("DirDiretorio"))),
+      mFmeDiretorio(Controle<QGroupBox>(*this, QStringLiteral("FmeDiretorio"))),
+      mChkDiretorio(Controle<QCheckBox>(*mFmeDiretorio, QStringLiteral("ChkDiretorio"))),
+      mTxtDiretorio(Controle<QLineEdit>(*mFmeDiretorio, QStringLiteral("TxtDiretorio"))) {
     const PonteiroOcupado ponteiro;
     setObjectName(QStringLiteral("FrmDiretorio"));
     setWindowTitle(QStringLiteral("Diretório"));
@@ -72,9 +66,9 @@ FrmDiretorio::FrmDiretorio(QWidget* pai)
     mChkDiretorio->setText(QStringLiteral("Criar subpasta"));
     mTxtDiretorio->setEnabled(false);
 
-    auto* botaoOK = pControle<QPushButton>(*this, QStringLiteral("BotDiretorioOK"));
+    auto* botaoOK = Controle<QPushButton>(*this, QStringLiteral("BotDiretorioOK"));
     botaoOK->setText(QStringLiteral("OK"));
-    auto* botaoCancela = pControle<QPushButton>(*this, QStringLiteral("BotDiretorioCancela"));
+    auto* botaoCancela = Controle<QPushButton>(*this, QStringLiteral("BotDiretorioCancela"));
     botaoCancela->setText(QStringLiteral("Cancelar"));
     // Enter moves on here as on every screen; the buttons answer to Space and their clicks.
     for (QPushButton* botao : {botaoOK, botaoCancela}) {

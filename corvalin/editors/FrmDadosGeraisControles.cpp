@@ -1,4 +1,5 @@
 // The controls of FrmDadosGerais and their places on the four tabs, made in reading order so
+#include "corvalin/frame/Controle.h"
 // that Tab walks them so.
 
 #include "corvalin/editors/FrmDadosGerais.h"
@@ -21,18 +22,8 @@ namespace corvalin {
 
 namespace {
 
-template <class T>
-T* pControle(QWidget& pai, const QString& nome, const QString& texto = {}) {
-    auto* controle = new T(&pai);
-    controle->setObjectName(nome);
-    if constexpr (std::is_base_of_v<QAbstractButton, T> || std::is_same_v<T, QLabel>) {
-        controle->setText(texto);
-    }
-    return controle;
-}
-
 QLineEdit* pCaixa(QWidget& pai, const QString& nome, int tamanhoMaximo) {
-    auto* caixa = pControle<QLineEdit>(pai, nome);
+    auto* caixa = Controle<QLineEdit>(pai, nome);
     caixa->setMaxLength(tamanhoMaximo);
     return caixa;
 }
@@ -85,7 +76,7 @@ QWidget* FrmDadosGerais::pMontaParametros() {
 
     auto* parametros = new QFormLayout;
     const auto linha = [&](const char* rotulo, const QString& texto, QWidget* campo) {
-        auto* lbl = pControle<QLabel>(*pagina, QString::fromLatin1(rotulo), texto);
+        auto* lbl = Controle<QLabel>(*pagina, QString::fromLatin1(rotulo), texto);
         lbl->setBuddy(campo);
         parametros->addRow(lbl, campo);
     };
@@ -93,10 +84,9 @@ QWidget* FrmDadosGerais::pMontaParametros() {
         pCaixa(*pagina, QStringLiteral("TxtDadosGeraisIntervaloConfianca"), TamanhoIntervalo);
     linha("LblDadosGeraisIntervaloConfianca", QStringLiteral("Intervalo de confiança (%):"),
           mTxtIntervaloConfianca);
-    mSpnMesInicial = pControle<halvo::Spin>(*pagina, QStringLiteral("SpnDadosGeraisMesInicial"));
+    mSpnMesInicial = Controle<halvo::Spin>(*pagina, QStringLiteral("SpnDadosGeraisMesInicial"));
     linha("LblDadosGeraisMesInicial", QStringLiteral("Mês inicial do ano hidrológico:"), mSpnMesInicial);
-    mSpnSemanaInicialPrev =
-        pControle<halvo::Spin>(*pagina, QStringLiteral("SpnDadosGeraisSemanaInicialPrev"));
+    mSpnSemanaInicialPrev = Controle<halvo::Spin>(*pagina, QStringLiteral("SpnDadosGeraisSemanaInicialPrev"));
     mSpnSemanaInicialPrev->setMinimo(1);
     mSpnSemanaInicialPrev->setMaximo(SemanasDoAno);
     linha("LblDadosGeraisSemanaInicialPrev", QStringLiteral("Semana inicial das Previsões:"),
@@ -106,19 +96,19 @@ QWidget* FrmDadosGerais::pMontaParametros() {
     mTxtAnoFinalHistorico = pCaixa(*pagina, QStringLiteral("TxtDadosGeraisAnoFinalHistorico"), TamanhoAno);
     linha("LblDadosGeraisAnoFinalHistorico", QStringLiteral("Ano final do histórico a ser considerado:"),
           mTxtAnoFinalHistorico);
-    mChkImpressao = pControle<QCheckBox>(*pagina, QStringLiteral("ChkDadosGeraisImpressao"),
-                                         QStringLiteral("Impressão dos parâmetros do modelo"));
+    mChkImpressao = Controle<QCheckBox>(*pagina, QStringLiteral("ChkDadosGeraisImpressao"),
+                                        QStringLiteral("Impressão dos parâmetros do modelo"));
     parametros->addRow(mChkImpressao);
     mChkCasoUsa53Semanas =
-        pControle<QCheckBox>(*pagina, QStringLiteral("chkCasoUsa53Semanas"),
-                             QStringLiteral("Para este estudo este posto utiliza 53 semanas"));
+        Controle<QCheckBox>(*pagina, QStringLiteral("chkCasoUsa53Semanas"),
+                            QStringLiteral("Para este estudo este posto utiliza 53 semanas"));
     parametros->addRow(mChkCasoUsa53Semanas);
 
     // The input names: the two of the station's own files, then the Vazpast file, whose check box
     // stands where the others have their label.
-    auto* entrada = pControle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisArquivosEntrada"));
-    mChkArquivosEntrada = pControle<QCheckBox>(*entrada, QStringLiteral("ChkDadosGeraisArquivosEntrada"),
-                                               QStringLiteral("Nome dos Arquivos de Entrada (sem path)"));
+    auto* entrada = Controle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisArquivosEntrada"));
+    mChkArquivosEntrada = Controle<QCheckBox>(*entrada, QStringLiteral("ChkDadosGeraisArquivosEntrada"),
+                                              QStringLiteral("Nome dos Arquivos de Entrada (sem path)"));
     auto* gradeEntrada = new QGridLayout(entrada);
     gradeEntrada->addWidget(mChkArquivosEntrada, 0, 0, 1, 2);
     const std::array<QString, 5> rotulos{
@@ -126,7 +116,7 @@ QWidget* FrmDadosGerais::pMontaParametros() {
         QStringLiteral("Relatório"), QStringLiteral("Previsões das Vazões Semanais Futuras"),
         QStringLiteral("Estatística das Previsões (Excel)")};
     const auto arquivo = [&](QWidget& pai, QGridLayout& grade, std::size_t i, int tamanho) {
-        mLblArquivo[i] = pControle<QLabel>(pai, pElemento("LblDadosGeraisArquivo", i), rotulos[i]);
+        mLblArquivo[i] = Controle<QLabel>(pai, pElemento("LblDadosGeraisArquivo", i), rotulos[i]);
         mTxtArquivo[i] = pCaixa(pai, pElemento("TxtDadosGeraisArquivo", i), tamanho);
         mLblArquivo[i]->setBuddy(mTxtArquivo[i]);
         grade.addWidget(mLblArquivo[i], grade.rowCount(), 0);
@@ -134,13 +124,13 @@ QWidget* FrmDadosGerais::pMontaParametros() {
     };
     arquivo(*entrada, *gradeEntrada, 0, TamanhoNomeEntrada);
     arquivo(*entrada, *gradeEntrada, 1, TamanhoNomeEntrada);
-    mChkUsaVazpast = pControle<QCheckBox>(*entrada, QStringLiteral("ChkDadosGeraisUsaVazpast"),
-                                          QStringLiteral("Nome do Arquivo Vazpast"));
+    mChkUsaVazpast = Controle<QCheckBox>(*entrada, QStringLiteral("ChkDadosGeraisUsaVazpast"),
+                                         QStringLiteral("Nome do Arquivo Vazpast"));
     mTxtArquivo[5] = pCaixa(*entrada, pElemento("TxtDadosGeraisArquivo", 5), TamanhoNomeCurto);
     gradeEntrada->addWidget(mChkUsaVazpast, gradeEntrada->rowCount(), 0);
     gradeEntrada->addWidget(mTxtArquivo[5], gradeEntrada->rowCount() - 1, 1);
 
-    auto* saida = pControle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisArquivosSaida"));
+    auto* saida = Controle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisArquivosSaida"));
     saida->setTitle(QStringLiteral("Nome dos Arquivos de Saída (sem path)"));
     auto* gradeSaida = new QGridLayout(saida);
     for (std::size_t i = 2; i <= 4; ++i) {
@@ -160,7 +150,7 @@ QWidget* FrmDadosGerais::pMontaParametros() {
 
 QWidget* FrmDadosGerais::pMontaTransformacao() {
     auto* pagina = new QWidget;
-    auto* quadro = pControle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisTransformacao"));
+    auto* quadro = Controle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisTransformacao"));
     quadro->setTitle(QStringLiteral("Transformação das Vazões Históricas Semanais"));
     const std::array<QString, 6> textos{QStringLiteral("Não haverá transformação"),
                                         QStringLiteral("Transformação logarítmica / sem transformação"),
@@ -171,7 +161,7 @@ QWidget* FrmDadosGerais::pMontaTransformacao() {
     auto* opcoes = new QVBoxLayout(quadro);
     for (std::size_t i = 0; i < textos.size(); ++i) {
         mOptTransformacao[i] =
-            pControle<QRadioButton>(*quadro, pElemento("OptDadosGeraisTransformacao", i), textos[i]);
+            Controle<QRadioButton>(*quadro, pElemento("OptDadosGeraisTransformacao", i), textos[i]);
         opcoes->addWidget(mOptTransformacao[i]);
     }
     auto* leiaute = new QVBoxLayout(pagina);
@@ -182,14 +172,14 @@ QWidget* FrmDadosGerais::pMontaTransformacao() {
 
 QWidget* FrmDadosGerais::pMontaExclusao() {
     auto* pagina = new QWidget;
-    auto* quadro = pControle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisExclusao"));
+    auto* quadro = Controle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisExclusao"));
     quadro->setTitle(QStringLiteral("Excluir Arquivos Após Execução"));
     const std::array<QString, 4> textos{
         QStringLiteral("Dados Gerais"), QStringLiteral("Histórico de Vazões Semanais"),
         QStringLiteral("Relatório"), QStringLiteral("Estatística das Previsões (Excel)")};
     auto* caixas = new QVBoxLayout(quadro);
     for (std::size_t i = 0; i < textos.size(); ++i) {
-        mChkExclusao[i] = pControle<QCheckBox>(*quadro, pElemento("ChkDadosGeraisExclusao", i), textos[i]);
+        mChkExclusao[i] = Controle<QCheckBox>(*quadro, pElemento("ChkDadosGeraisExclusao", i), textos[i]);
         caixas->addWidget(mChkExclusao[i]);
     }
     auto* leiaute = new QVBoxLayout(pagina);
@@ -200,13 +190,13 @@ QWidget* FrmDadosGerais::pMontaExclusao() {
 
 QWidget* FrmDadosGerais::pMontaVazpast() {
     auto* pagina = new QWidget;
-    mFmeVazpast = pControle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisVazpast"));
+    mFmeVazpast = Controle<QGroupBox>(*pagina, QStringLiteral("FmeDadosGeraisVazpast"));
     mFmeVazpast->setTitle(QStringLiteral("Previsões do Vazpast "));
     auto* valores = new QFormLayout(mFmeVazpast);
     for (std::size_t i = 0; i < mTxtVazpast.size(); ++i) {
         mTxtVazpast[i] = pCaixa(*mFmeVazpast, pElemento("TxtDadosGeraisVazpast", i), TamanhoVazpast);
-        auto* rotulo = pControle<QLabel>(*mFmeVazpast, pElemento("LblSemanasVazpast", i),
-                                         QStringLiteral("%1º semana:").arg(i + 1));
+        auto* rotulo = Controle<QLabel>(*mFmeVazpast, pElemento("LblSemanasVazpast", i),
+                                        QStringLiteral("%1º semana:").arg(i + 1));
         rotulo->setBuddy(mTxtVazpast[i]);
         valores->addRow(rotulo, mTxtVazpast[i]);
     }

@@ -1,5 +1,6 @@
 #include "corvalin/editors/FrmImporta.h"
 
+#include "corvalin/frame/Controle.h"
 #include "corvalin/frame/Mensagens.h"
 #include "halvo/controles/RichText.h"
 #include "halvo/sdk/ServicoDialogo.h"
@@ -24,35 +25,25 @@ using namespace Mensagens;
 
 enum Pagina : std::uint8_t { Selecao = 1, Verificacao = 2, Importacao = 3 };
 
-template <class T>
-T* pControle(QWidget& pai, const QString& nome) {
-    auto* controle = new T(&pai);
-    controle->setObjectName(nome);
-    return controle;
-}
-
-QPushButton* pBotao(QWidget& pai, const QString& nome, const QString& texto) {
-    auto* botao = pControle<QPushButton>(pai, nome);
-    botao->setText(texto);
-    return botao;
-}
-
 const QString CaptionAvancar = QStringLiteral("&") + msgAvancar + QStringLiteral(" >");
 
 }  // namespace
 
 FrmImporta::FrmImporta(QWidget* pai)
     : Tela(QStringLiteral("FrmImporta"), QStringLiteral("Assistente de Importação"), pai),
-      mLblImporta(pControle<QLabel>(*this, QStringLiteral("LblImporta"))),
-      mLstImporta(pControle<QListWidget>(*this, QStringLiteral("LstImporta"))),
-      mBotSelecionar(pBotao(*this, QStringLiteral("BotImportaSelecionar"), QStringLiteral("&Selecionar..."))),
-      mTxtImporta(pControle<halvo::RichText>(*this, QStringLiteral("TxtImporta"))),
-      mLblStatusNome(pControle<QLabel>(*this, QStringLiteral("LblImportaStatusNome"))),
-      mLblStatusNumero(pControle<QLabel>(*this, QStringLiteral("LblImportaStatusNumero"))),
-      mPrgImporta(pControle<QProgressBar>(*this, QStringLiteral("PrgImporta"))),
-      mBotVoltar(pBotao(*this, QStringLiteral("BotImportaVoltar"), QStringLiteral("< &Voltar"))),
-      mBotAvancar(pBotao(*this, QStringLiteral("BotImportaAvancar"), CaptionAvancar)),
-      mBotCancela(pBotao(*this, QStringLiteral("BotImportaCancela"), QStringLiteral("&Cancela"))),
+      mLblImporta(Controle<QLabel>(*this, QStringLiteral("LblImporta"))),
+      mLstImporta(Controle<QListWidget>(*this, QStringLiteral("LstImporta"))),
+      mBotSelecionar(Controle<QPushButton>(*this, QStringLiteral("BotImportaSelecionar"),
+                                           QStringLiteral("&Selecionar..."))),
+      mTxtImporta(Controle<halvo::RichText>(*this, QStringLiteral("TxtImporta"))),
+      mLblStatusNome(Controle<QLabel>(*this, QStringLiteral("LblImportaStatusNome"))),
+      mLblStatusNumero(Controle<QLabel>(*this, QStringLiteral("LblImportaStatusNumero"))),
+      mPrgImporta(Controle<QProgressBar>(*this, QStringLiteral("PrgImporta"))),
+      mBotVoltar(
+          Controle<QPushButton>(*this, QStringLiteral("BotImportaVoltar"), QStringLiteral("< &Voltar"))),
+      mBotAvancar(Controle<QPushButton>(*this, QStringLiteral("BotImportaAvancar"), CaptionAvancar)),
+      mBotCancela(
+          Controle<QPushButton>(*this, QStringLiteral("BotImportaCancela"), QStringLiteral("&Cancela"))),
       mRelatorio(*mTxtImporta),
       mBarra(*mPrgImporta),
       mStatus(*mLblStatusNome, *mLblStatusNumero) {

@@ -1,5 +1,6 @@
 #include "corvalin/execution/FrmExecutar.h"
 
+#include "corvalin/frame/Controle.h"
 #include "corvalin/frame/FrmBarraDeProgresso.h"
 #include "corvalin/frame/Mensagens.h"
 #include "halvo/controles/RichText.h"
@@ -14,15 +15,8 @@ namespace corvalin {
 
 namespace {
 
-QPushButton* pBotao(QWidget& pai, const QString& nome, const QString& texto) {
-    auto* botao = new QPushButton(texto, &pai);
-    botao->setObjectName(nome);
-    return botao;
-}
-
 QLabel* pRotulo(QWidget& pai, const QString& nome, const QColor& cor) {
-    auto* rotulo = new QLabel(&pai);
-    rotulo->setObjectName(nome);
+    auto* rotulo = Controle<QLabel>(pai, nome);
     QPalette paleta = rotulo->palette();
     paleta.setColor(QPalette::WindowText, cor);
     rotulo->setPalette(paleta);
@@ -45,15 +39,19 @@ FrmExecutar::FrmExecutar(QString pastaPlugin, QWidget* pai)
       mPastaPlugin(std::move(pastaPlugin)),
       mLblExecutar(new QLabel(Mensagens::msgSelecionePostosExecucao, this)),
       mLstExecutar(new QListWidget(this)),
-      mBotMarcar(pBotao(*this, QStringLiteral("BotExecutarMarcar"), QStringLiteral("&Marcar tudo"))),
-      mBotDesmarcar(pBotao(*this, QStringLiteral("BotExecutarDesmarcar"), QStringLiteral("&Desmarcar tudo"))),
+      mBotMarcar(
+          Controle<QPushButton>(*this, QStringLiteral("BotExecutarMarcar"), QStringLiteral("&Marcar tudo"))),
+      mBotDesmarcar(Controle<QPushButton>(*this, QStringLiteral("BotExecutarDesmarcar"),
+                                          QStringLiteral("&Desmarcar tudo"))),
       mRtfExecutar(new halvo::RichText(this)),
       mLblAlertas(pRotulo(*this, QStringLiteral("LblExecutarAlertas"), Qt::blue)),
       mLblProblemas(pRotulo(*this, QStringLiteral("LblExecutarProblemas"), Qt::red)),
-      mBotVoltar(pBotao(*this, QStringLiteral("BotExecutarVoltar"), QStringLiteral("< &Voltar"))),
-      mBotAvancar(pBotao(*this, QStringLiteral("BotExecutarAvancar"),
-                         QStringLiteral("&") + Mensagens::msgAvancar + QStringLiteral(" >"))),
-      mBotCancela(pBotao(*this, QStringLiteral("BotExecutarCancela"), QStringLiteral("&Cancela"))),
+      mBotVoltar(
+          Controle<QPushButton>(*this, QStringLiteral("BotExecutarVoltar"), QStringLiteral("< &Voltar"))),
+      mBotAvancar(Controle<QPushButton>(*this, QStringLiteral("BotExecutarAvancar"),
+                                        QStringLiteral("&") + Mensagens::msgAvancar + QStringLiteral(" >"))),
+      mBotCancela(
+          Controle<QPushButton>(*this, QStringLiteral("BotExecutarCancela"), QStringLiteral("&Cancela"))),
       mLista(*mLstExecutar),
       mRegistro(*mRtfExecutar, [this] { mLblExecutar->setText(mAssistente->getLblExecutar()); }) {
     mLblExecutar->setObjectName(QStringLiteral("LblExecutar"));

@@ -1,6 +1,7 @@
 #include "corvalin/frame/TelaPostos.h"
 
 #include "corvalin/casedb/casoBD.h"
+#include "corvalin/frame/Controle.h"
 #include "corvalin/frame/Mensagens.h"
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
@@ -25,12 +26,6 @@ constexpr int TamanhoMaximoNome = 60;
 constexpr std::array<ModoBusca, 4> ModosNavegacao{BuscaPrimeiro, BuscaAnterior, BuscaProximo, BuscaUltimo};
 constexpr std::array<QStyle::StandardPixmap, 4> IconesNavegacao{
     QStyle::SP_MediaSkipBackward, QStyle::SP_ArrowLeft, QStyle::SP_ArrowRight, QStyle::SP_MediaSkipForward};
-
-QPushButton* pBotao(QWidget& pai, const QString& nome, const QString& texto) {
-    auto* botao = new QPushButton(texto, &pai);
-    botao->setObjectName(nome);
-    return botao;
-}
 
 }  // namespace
 
@@ -71,7 +66,8 @@ void TelaPostos::pMontaTela(QWidget& corpo, std::initializer_list<QPushButton*> 
     auto* rodape = new QHBoxLayout;
     QWidget* anterior = nullptr;
     for (std::size_t i = 0; i < ModosNavegacao.size(); ++i) {
-        QPushButton* botao = pBotao(*this, QStringLiteral("Bot%1Navegacao_%2").arg(mPalavra).arg(i), {});
+        QPushButton* botao =
+            Controle<QPushButton>(*this, QStringLiteral("Bot%1Navegacao_%2").arg(mPalavra).arg(i), {});
         botao->setIcon(style()->standardIcon(IconesNavegacao[i]));
         connect(botao, &QPushButton::clicked, this, [this, i] { pNavegacao(static_cast<int>(i)); });
         rodape->addWidget(botao);
@@ -84,16 +80,16 @@ void TelaPostos::pMontaTela(QWidget& corpo, std::initializer_list<QPushButton*> 
         anterior = botao;
     }
     if (mGravacao == Gravacao::Com) {
-        QPushButton* gravar =
-            pBotao(*this, QStringLiteral("Bot%1Gravar").arg(mPalavra), QStringLiteral("&Gravar"));
+        QPushButton* gravar = Controle<QPushButton>(*this, QStringLiteral("Bot%1Gravar").arg(mPalavra),
+                                                    QStringLiteral("&Gravar"));
         pRegistraGravacao(*gravar);
         connect(gravar, &QPushButton::clicked, this, [this] {
             pArmadilha(QStringLiteral("Bot%1Gravar_Click").arg(mPalavra), [this] { pGravarClicado(); });
         });
         rodape->addWidget(gravar);
     }
-    QPushButton* sair =
-        pBotao(*this, QStringLiteral("Bot%1Sair").arg(mPalavra), QStringLiteral("&") + Mensagens::msgFechar);
+    QPushButton* sair = Controle<QPushButton>(*this, QStringLiteral("Bot%1Sair").arg(mPalavra),
+                                              QStringLiteral("&") + Mensagens::msgFechar);
     connect(sair, &QPushButton::clicked, this, &QWidget::close);
     rodape->addWidget(sair);
 

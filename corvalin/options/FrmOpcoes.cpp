@@ -1,5 +1,6 @@
 #include "corvalin/options/FrmOpcoes.h"
 
+#include "corvalin/frame/Controle.h"
 #include "corvalin/frame/GeralTelas.h"
 #include "corvalin/frame/Mensagens.h"
 #include "corvalin/options/Opcoes.h"
@@ -59,15 +60,8 @@ const std::array<LinhaDeArquivo, 5>& pLinhas() {
 
 const QString QuebraDeLinha = QStringLiteral("\r\n");
 
-template <class T>
-T* pControle(QWidget& pai, const QString& nome) {
-    auto* controle = new T(&pai);
-    controle->setObjectName(nome);
-    return controle;
-}
-
 QComboBox* pLista(QWidget& pai, const QString& nome) {
-    auto* lista = pControle<QComboBox>(pai, nome);
+    auto* lista = Controle<QComboBox>(pai, nome);
     lista->setEditable(true);
     lista->setInsertPolicy(QComboBox::NoInsert);
     // Typing keeps what was typed: no completion from the list.
@@ -85,7 +79,7 @@ void pMostraNaLista(QComboBox& lista, const QString& texto) {
 
 FrmOpcoes::FrmOpcoes(QWidget* pai)
     : Tela(QStringLiteral("FrmOpcoes"), QStringLiteral("Opções para os Arquivos"), pai),
-      mGuiOpcoes(pControle<QTabWidget>(*this, QStringLiteral("GuiOpcoes"))) {
+      mGuiOpcoes(Controle<QTabWidget>(*this, QStringLiteral("GuiOpcoes"))) {
     mGuiOpcoes->addTab(pAbaNomes(), QStringLiteral("   &1 - Nomes Padrão   "));
     mGuiOpcoes->addTab(pAbaExclusao(), QStringLiteral("   &2 - Exclusão   "));
     mGuiOpcoes->addTab(pAbaDiversos(), QStringLiteral("   &3 - Diversos   "));
@@ -145,7 +139,7 @@ QWidget* FrmOpcoes::pAbaNomes() {
 
 QWidget* FrmOpcoes::pAbaExclusao() {
     auto* aba = new QWidget;
-    auto* moldura = pControle<QGroupBox>(*aba, QStringLiteral("FmeOpcoesExclusao"));
+    auto* moldura = Controle<QGroupBox>(*aba, QStringLiteral("FmeOpcoesExclusao"));
     moldura->setTitle(QStringLiteral("Após a execução excluir os arquivos:"));
     auto* caixas = new QVBoxLayout(moldura);
     for (const LinhaDeArquivo& linha : pLinhas()) {
@@ -153,7 +147,7 @@ QWidget* FrmOpcoes::pAbaExclusao() {
             continue;
         }
         const auto i = static_cast<std::size_t>(linha.exclusao);
-        mExclusao[i] = pControle<QCheckBox>(*moldura, QStringLiteral("ChkOpcoesExclusao_%1").arg(i));
+        mExclusao[i] = Controle<QCheckBox>(*moldura, QStringLiteral("ChkOpcoesExclusao_%1").arg(i));
         mExclusao[i]->setText(linha.rotulo);
         caixas->addWidget(mExclusao[i]);
         mOrdem.push_back(mExclusao[i]);
@@ -167,17 +161,17 @@ QWidget* FrmOpcoes::pAbaExclusao() {
 
 QWidget* FrmOpcoes::pAbaDiversos() {
     auto* aba = new QWidget;
-    auto* filtros = pControle<QGroupBox>(*aba, QStringLiteral("FmeOpcoesFiltros"));
+    auto* filtros = Controle<QGroupBox>(*aba, QStringLiteral("FmeOpcoesFiltros"));
     filtros->setTitle(QStringLiteral("Filtros para Seleção de Arquivos na Importação"));
     auto* grade = new QGridLayout(filtros);
     for (std::size_t i = 0; i < Filtros; ++i) {
         const int linha = static_cast<int>(i);
         auto* rotulo = new QLabel(QStringLiteral("Filtro"), filtros);
         rotulo->setObjectName(QStringLiteral("LblOpcoesFiltro_%1").arg(i));
-        mFiltro[i] = pControle<QLineEdit>(*filtros, QStringLiteral("TxtOpcoesFiltro_%1").arg(i));
+        mFiltro[i] = Controle<QLineEdit>(*filtros, QStringLiteral("TxtOpcoesFiltro_%1").arg(i));
         auto* rotuloDescricao = new QLabel(QStringLiteral("Descrição"), filtros);
         rotuloDescricao->setObjectName(QStringLiteral("LblOpcoesFiltroDescricao_%1").arg(i));
-        mDescricao[i] = pControle<QLineEdit>(*filtros, QStringLiteral("TxtOpcoesFiltroDescricao_%1").arg(i));
+        mDescricao[i] = Controle<QLineEdit>(*filtros, QStringLiteral("TxtOpcoesFiltroDescricao_%1").arg(i));
         rotulo->setBuddy(mFiltro[i]);
         rotuloDescricao->setBuddy(mDescricao[i]);
         grade->addWidget(rotulo, linha, 0);
@@ -193,11 +187,11 @@ QWidget* FrmOpcoes::pAbaDiversos() {
     grade->setColumnStretch(1, 1);
     grade->setColumnStretch(3, 2);
 
-    auto* pasta = pControle<QGroupBox>(*aba, QStringLiteral("FmeOpcoesPastaPrevisoes"));
-    mChkPasta = pControle<QCheckBox>(*pasta, QStringLiteral("ChkOpcoesPastaPrevisoes"));
+    auto* pasta = Controle<QGroupBox>(*aba, QStringLiteral("FmeOpcoesPastaPrevisoes"));
+    mChkPasta = Controle<QCheckBox>(*pasta, QStringLiteral("ChkOpcoesPastaPrevisoes"));
     mChkPasta->setText(QStringLiteral("Manter todos arquivos de Previsões na pasta:"));
-    mTxtPasta = pControle<QLineEdit>(*pasta, QStringLiteral("TxtOpcoesPastaPrevisoes"));
-    mBotPasta = pControle<QPushButton>(*pasta, QStringLiteral("BotOpcoesPastaPrevisoes"));
+    mTxtPasta = Controle<QLineEdit>(*pasta, QStringLiteral("TxtOpcoesPastaPrevisoes"));
+    mBotPasta = Controle<QPushButton>(*pasta, QStringLiteral("BotOpcoesPastaPrevisoes"));
     mBotPasta->setText(QStringLiteral("..."));
     mTxtPasta->installEventFilter(this);
     auto* linhaDaPasta = new QHBoxLayout;

@@ -1,5 +1,6 @@
 #include "corvalin/stations/FrmPostos.h"
 
+#include "corvalin/frame/Controle.h"
 #include "corvalin/frame/FrmBarraDeProgresso.h"
 #include "corvalin/frame/Mensagens.h"
 #include "corvalin/modelfiles/PostoARQ.h"
@@ -38,12 +39,6 @@ constexpr int LarguraDaSemana = 900;  // twips
 constexpr int LarguraDoAno = 750;
 
 const QString Titulo = QStringLiteral("Histórico de Vazões Semanais");
-
-QPushButton* pBotao(QWidget& pai, const QString& nome, const QString& texto) {
-    auto* botao = new QPushButton(texto, &pai);
-    botao->setObjectName(nome);
-    return botao;
-}
 
 // Painting stops while the grid fills, and comes back however the filling ends.
 class GradeSemDesenho {
@@ -134,10 +129,12 @@ FrmPostos::FrmPostos(QWidget* pai)
     leiauteDoCorpo->addLayout(linhaDaArea);
     leiauteDoCorpo->addWidget(moldura, 1);
 
-    QPushButton* novo = pBotao(*this, QStringLiteral("BotPostosNovo"), QStringLiteral("&Novo"));
-    QPushButton* apagar = pBotao(*this, QStringLiteral("BotPostosApagar"), QStringLiteral("A&pagar"));
+    QPushButton* novo =
+        Controle<QPushButton>(*this, QStringLiteral("BotPostosNovo"), QStringLiteral("&Novo"));
+    QPushButton* apagar =
+        Controle<QPushButton>(*this, QStringLiteral("BotPostosApagar"), QStringLiteral("A&pagar"));
     QPushButton* importar =
-        pBotao(*this, QStringLiteral("BotPostosImportar"), QStringLiteral("&Importar..."));
+        Controle<QPushButton>(*this, QStringLiteral("BotPostosImportar"), QStringLiteral("&Importar..."));
     for (QPushButton* botao : {novo, apagar, importar}) {
         pRegistraGravacao(*botao);
     }
