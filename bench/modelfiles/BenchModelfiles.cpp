@@ -10,7 +10,7 @@
 #include "corvalin/options/OpcoesBD.h"
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
-#include "halvo/sdk/Caso.h"
+#include "halvo/app/CasoPasta.h"
 #include "platform/recordstore/Recordstore.h"
 
 #include <QDir>
@@ -36,18 +36,6 @@ constexpr int Anos = 90;
 constexpr int PrimeiroAno = 1931;
 constexpr int Semanas = 52;
 
-class CasoBench : public halvo::caso {
-public:
-    explicit CasoBench(QString pasta) : mPasta(std::move(pasta)) {}
-    bool SomenteLeitura() const override { return false; }
-    QString Item(const QString& nome) const override {
-        return nome.compare(QLatin1String("Diretorio"), Qt::CaseInsensitive) == 0 ? mPasta : QString();
-    }
-
-private:
-    QString mPasta;
-};
-
 // A case with its two stores, made in a folder of its own.
 struct Caso {
     explicit Caso(const QString& pasta) {
@@ -56,7 +44,7 @@ struct Caso {
             std::exit(1);
         }
         bd->Fechar();
-        bd->Abrir(CasoBench(pasta + QDir::separator()), true, true);
+        bd->Abrir(halvo::CasoPasta(pasta), true, true);
         postoBD.setCasoBD(bd);
         opcoesBD.setCasoBD(bd);
         corvalin::Opcoes opcoes;

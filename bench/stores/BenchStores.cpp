@@ -5,7 +5,7 @@
 #include "corvalin/casedb/casoBD.h"
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
-#include "halvo/sdk/Caso.h"
+#include "halvo/app/CasoPasta.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -23,18 +23,6 @@ constexpr int Anos = 100;
 constexpr int PrimeiroAno = 1921;
 constexpr int PostosNoCatalogo = 1000;
 constexpr int PostosComHistorico = 20;  // neighbours around the measured station in the table
-
-class CasoBench : public halvo::caso {
-public:
-    explicit CasoBench(QString pasta) : mPasta(std::move(pasta)) {}
-    bool SomenteLeitura() const override { return false; }
-    QString Item(const QString& nome) const override {
-        return nome.compare(QLatin1String("Diretorio"), Qt::CaseInsensitive) == 0 ? mPasta : QString();
-    }
-
-private:
-    QString mPasta;
-};
 
 Posto pPosto(int codigo) {
     Posto p;
@@ -66,7 +54,7 @@ struct Caso {
         const QString caminho = pasta.filePath(QStringLiteral("caso"));
         bd->Criar(caminho);
         bd->Fechar();
-        bd->Abrir(CasoBench(caminho + QDir::separator()), true, true);
+        bd->Abrir(halvo::CasoPasta(caminho), true, true);
         postoBD.setCasoBD(bd);
         recordstore::Transacao t(postoBD.BancoDeDados());
         for (int codigo = 1; codigo <= PostosNoCatalogo; ++codigo) {

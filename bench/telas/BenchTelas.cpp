@@ -6,8 +6,8 @@
 #include "corvalin/stations/FrmPostos.h"
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
+#include "halvo/app/CasoPasta.h"
 #include "halvo/sdk/CamadaAcesso.h"
-#include "halvo/sdk/Caso.h"
 #include "halvo/sdk/NotificadorRegistro.h"
 
 #include <QApplication>
@@ -25,22 +25,10 @@ constexpr int Anos = 100;
 constexpr int PrimeiroAno = 1921;
 constexpr int Semanas = 52;
 
-class CasoBench : public halvo::caso {
-public:
-    explicit CasoBench(QString pasta) : mPasta(std::move(pasta)) {}
-    bool SomenteLeitura() const override { return false; }
-    QString Item(const QString& nome) const override {
-        return nome.compare(QLatin1String("Diretorio"), Qt::CaseInsensitive) == 0 ? mPasta : QString();
-    }
-
-private:
-    QString mPasta;
-};
-
 // One case, made once, whose first station holds the century.
 struct Caso {
     Caso()
-        : caso(std::make_shared<CasoBench>(pasta.filePath(QStringLiteral("caso")) + QDir::separator())),
+        : caso(std::make_shared<halvo::CasoPasta>(pasta.filePath(QStringLiteral("caso")))),
           bd(std::make_shared<corvalin::casoBD>()) {
         bd->Criar(pasta.filePath(QStringLiteral("caso")));
         bd->Fechar();
@@ -72,7 +60,7 @@ struct Caso {
     }
 
     QTemporaryDir pasta;
-    std::shared_ptr<CasoBench> caso;
+    std::shared_ptr<halvo::CasoPasta> caso;
     std::shared_ptr<corvalin::casoBD> bd;
     corvalin::PostoBD postoBD;
     corvalin::Posto medido;
