@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 #include <numbers>
+#include <random>
 
 namespace teste {
 
@@ -100,20 +101,34 @@ std::vector<std::string> arquivoDadosGerais(const DadosGeraisTeste& d) {
             "0"};
 }
 
-std::vector<std::vector<double>> anosSinteticos(int anos, int numSemanas, unsigned semente) {
+Processo processo(double phi1, double phi2, double desvioRuido) {
+    return {std::vector<double>(semanasDoAno, phi1), std::vector<double>(semanasDoAno, phi2), desvioRuido};
+}
+
+std::vector<double> simula(const Processo& p, int anos, unsigned semente) {
     std::mt19937 gerador(semente);
     std::normal_distribution<double> normal;
-    constexpr double phi = 0.7;
-    double z = 0.0;
-    std::vector<std::vector<double>> resultado(static_cast<std::size_t>(anos));
-    for (auto& ano : resultado) {
-        for (int s = 0; s < numSemanas; ++s) {
-            z = phi * z + std::sqrt(1.0 - phi * phi) * normal(gerador);
-            const double media = 3.0 + std::sin(2.0 * std::numbers::pi * s / numSemanas);
-            ano.push_back(std::round(std::exp(media + 0.5 * z) * 100.0) / 100.0);
-        }
+    std::vector<double> vazoes;
+    double z1 = 0.0;
+    double z2 = 0.0;
+    for (int t = 0; t < anos * semanasDoAno; ++t) {
+        const auto s = static_cast<std::size_t>(t % semanasDoAno);
+        const double z = p.phi1[s] * z1 + p.phi2[s] * z2 + p.desvioRuido * normal(gerador);
+        z2 = z1;
+        z1 = z;
+        const double fase = 2.0 * std::numbers::pi * static_cast<double>(s) / semanasDoAno;
+        vazoes.push_back(
+            std::exp(p.nivel + std::sin(fase) + (p.escala + p.escalaSazonal * std::cos(fase)) * z));
     }
-    return resultado;
+    return vazoes;
+}
+
+std::vector<std::vector<double>> anosDe(const std::vector<double>& vazoes) {
+    std::vector<std::vector<double>> anos(vazoes.size() / semanasDoAno);
+    for (std::size_t t = 0; t < anos.size() * semanasDoAno; ++t) {
+        anos[t / semanasDoAno].push_back(std::round(vazoes[t] * 100.0) / 100.0);
+    }
+    return anos;
 }
 
 void montaEstacao(const std::filesystem::path& pasta, const DadosGeraisTeste& d,

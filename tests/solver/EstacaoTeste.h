@@ -1,10 +1,9 @@
 #pragma once
 
-// Station folders for the tests: a temporary folder, and the station files laid out as the
-// plug-in writes them.
+// Station folders for the tests: a temporary folder, the station files laid out as the plug-in
+// writes them, and synthetic flows of known processes.
 
 #include <filesystem>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -44,9 +43,23 @@ struct DadosGeraisTeste {
 };
 std::vector<std::string> arquivoDadosGerais(const DadosGeraisTeste& d);
 
-// Years of weekly flows from a periodic first-order autoregression of the log flows with a
-// seasonal mean, with a fixed seed.
-std::vector<std::vector<double>> anosSinteticos(int anos, int numSemanas, unsigned semente);
+// A process of 52-week years whose log flows are a seasonal mean, nivel + sin, plus a periodic
+// autoregression of order 2 scaled by escala + escalaSazonal * cos: skewed, as floods make them.
+struct Processo {
+    std::vector<double> phi1;  // per week
+    std::vector<double> phi2;
+    double desvioRuido;
+    double nivel = 4.0;
+    double escala = 0.4;
+    double escalaSazonal = 0.1;
+};
+inline constexpr int semanasDoAno = 52;
+// The same weights every week.
+Processo processo(double phi1, double phi2, double desvioRuido);
+// The flows of anos years, from a fixed seed.
+std::vector<double> simula(const Processo& p, int anos, unsigned semente);
+// The same split into years and rounded to hundredths, as a weekly flows file holds them.
+std::vector<std::vector<double>> anosDe(const std::vector<double>& vazoes);
 
 // A whole station in the folder (Caso.dat, general data "1234.arq", weekly flows "1234.dat"),
 // the history up to the week before the forecast week.

@@ -9,7 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
+#include <tuple>
 
 namespace {
 
@@ -58,17 +60,13 @@ TEST(VazoesSemanais, AnoInterrompidoEUltimoAnoParcial) {
     teste::escreve(pasta.caminho() / "v.dat", teste::arquivoVazoes(1491, "Choptank", 1980, anos));
 
     const auto v = solver::leVazoesSemanais(pasta.caminho() / "v.dat", 52);
-    EXPECT_EQ(v.codigo, 1491);
-    EXPECT_EQ(v.nome, "Choptank");
-    EXPECT_EQ(v.anoInicial, 1980);
-    EXPECT_EQ(v.anoFinal, 1982);
-    EXPECT_DOUBLE_EQ(v.vazoes[0][18], 118.5);
-    EXPECT_EQ(v.vazoes[0][19], 0.0);
-    EXPECT_EQ(v.vazoes[0][51], 0.0);
-    EXPECT_DOUBLE_EQ(v.vazoes[1][0], 200.5);
-    EXPECT_DOUBLE_EQ(v.vazoes[1][51], 251.5);
-    EXPECT_DOUBLE_EQ(v.vazoes[2][29], 329.5);
-    EXPECT_EQ(v.vazoes[2][30], 0.0);
+    EXPECT_EQ(std::tie(v.codigo, v.nome, v.anoInicial, v.anoFinal),
+              std::make_tuple(1491, std::string("Choptank"), 1980, 1982));
+    // What the file does not give reads as 0.
+    std::vector<std::vector<double>> lidos = anos;
+    std::fill(lidos[0].begin() + 19, lidos[0].end(), 0.0);
+    lidos[2].resize(52);
+    EXPECT_EQ(v.vazoes, lidos);
 
     auto linhas = teste::arquivoVazoes(1491, "Choptank", 1980, anos);
     linhas[3].replace(76, 4, "1975");

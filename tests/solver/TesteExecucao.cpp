@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
 namespace {
 
 using solver::CodigoEstado;
@@ -17,13 +21,6 @@ constexpr int anoInicial = 1970;
 
 class Execucao : public ::testing::Test {
 protected:
-    void SetUp() override {
-        dados_.semanaInicialPrev = 20;
-        dados_.anoInicialPrev = 2000;
-        dados_.anoFinalHistorico = 2000;
-        anos_ = teste::anosSinteticos(31, 52, 3);
-    }
-
     fs::path pasta() const { return pasta_.caminho(); }
     void monta() const { teste::montaEstacao(pasta(), dados_, anos_, anoInicial); }
 
@@ -42,9 +39,27 @@ protected:
         }
     }
 
+    // Whether a line of the report holds the text.
+    bool relatorioContem(const std::string& texto) const {
+        const auto linhas = *solver::leLinhas(pasta() / "1234.rel");
+        return std::any_of(linhas.begin(), linhas.end(),
+                           [&](const std::string& l) { return l.find(texto) != std::string::npos; });
+    }
+
     teste::PastaTemporaria pasta_;
-    teste::DadosGeraisTeste dados_;
-    std::vector<std::vector<double>> anos_;
+    // 31 years of a lognormal first-order autoregression, forecast from week 20 of 2000.
+    teste::DadosGeraisTeste dados_{
+        .semanaInicialPrev = 20, .anoInicialPrev = 2000, .anoFinalHistorico = 2000};
+    std::vector<std::vector<double>> anos_ = teste::anosDe(teste::simula(pSinteticos(), 31, 3));
+
+private:
+    static teste::Processo pSinteticos() {
+        teste::Processo p = teste::processo(0.7, 0.0, std::sqrt(1.0 - 0.7 * 0.7));
+        p.nivel = 3.0;
+        p.escala = 0.5;
+        p.escalaSazonal = 0.0;
+        return p;
+    }
 };
 
 // The last three lines: a label in 24 columns and six values of 9 columns, read as the plug-in
@@ -90,38 +105,30 @@ TEST_F(Execucao, SucessoDeixaPrevisaoRelatoriosEVeredito) {
         EXPECT_GE(valores[2][j], valores[0][j]);
         EXPECT_LT(valores[1][j], valores[2][j]);
     }
-    const auto relatorio = *solver::leLinhas(pasta() / "1234.rel");
-    const auto contem = [&](const std::string& texto) {
-        return std::any_of(relatorio.begin(), relatorio.end(),
-                           [&](const std::string& l) { return l.find(texto) != std::string::npos; });
-    };
-    EXPECT_TRUE(contem("Semanas sem vazão preenchidas: 42"));
-    EXPECT_TRUE(contem("<- escolhido"));
-    EXPECT_TRUE(contem("Parâmetros do modelo por semana"));
+    for (const char* texto :
+         {"Semanas sem vazão preenchidas: 42", "<- escolhido", "Parâmetros do modelo por semana"}) {
+        EXPECT_TRUE(relatorioContem(texto)) << texto;
+    }
     EXPECT_EQ(solver::leLinhas(pasta() / "1234.bcx")->size(), 3u + 52u);
-
     const auto planilha = *solver::leLinhas(pasta() / "1234.exc");
     ASSERT_EQ(planilha.size(), 7u);
     for (const std::string& linha : planilha) {
         EXPECT_EQ(std::count(linha.begin(), linha.end(), '\t'), 9) << linha;
     }
     EXPECT_TRUE(planilha[1].starts_with("20\t2000\t"));
-
     const auto aviso = solver::leLinhas(pasta() / "Aviso.txt");
     ASSERT_TRUE(aviso);
     EXPECT_EQ(aviso->front(), "A previsão do posto 1234 merece atenção: semanas sem vazão preenchidas.");
 
-    // Run again on the same folder: the same forecast, and no Aviso.txt once nothing deserves one.
-    const std::string primeira = teste::leBytes(pasta() / "1234.prv");
+    // Again on the same folder, once nothing deserves a word: no Aviso.txt, and the same forecast
+    // from one run to the next.
     anos_[5][10] = 1.0;
     monta();
     executaEsperando(CodigoEstado::sucesso);
     EXPECT_FALSE(fs::exists(pasta() / "Aviso.txt"));
-    EXPECT_NE(teste::leBytes(pasta() / "1234.prv"), "");
-    EXPECT_EQ(solver::executaEstacao(pasta()), CodigoEstado::sucesso);
-    const std::string segunda = teste::leBytes(pasta() / "1234.prv");
-    EXPECT_EQ(teste::leBytes(pasta() / "1234.prv"), segunda);
-    EXPECT_FALSE(primeira.empty());
+    const std::string primeira = teste::leBytes(pasta() / "1234.prv");
+    executaEsperando(CodigoEstado::sucesso);
+    EXPECT_EQ(teste::leBytes(pasta() / "1234.prv"), primeira);
 }
 
 TEST_F(Execucao, LimitesDaPrevisaoSaoRespeitadosEAvisados) {
@@ -137,62 +144,62 @@ TEST_F(Execucao, LimitesDaPrevisaoSaoRespeitadosEAvisados) {
     const auto aviso = solver::leLinhas(pasta() / "Aviso.txt");
     ASSERT_TRUE(aviso);
     EXPECT_NE(aviso->front().find("previsão limitada"), std::string::npos);
-    const auto relatorio = *solver::leLinhas(pasta() / "1234.rel");
-    EXPECT_TRUE(std::any_of(relatorio.begin(), relatorio.end(), [](const std::string& l) {
-        return l.starts_with("Semanas limitadas pelos limites: ");
-    }));
+    EXPECT_TRUE(relatorioContem("Semanas limitadas pelos limites: "));
 }
 
-TEST_F(Execucao, FalhasDeEntrada) {
-    executaEsperando(CodigoEstado::entradaInvalida);  // no Caso.dat
-
-    monta();
-    fs::remove(pasta() / "1234.dat");
-    executaEsperando(CodigoEstado::entradaInvalida);
-
-    monta();
-    auto dados = teste::arquivoDadosGerais(dados_);
-    dados[3] = "x";
-    teste::escreve(pasta() / "1234.arq", dados);
-    executaEsperando(CodigoEstado::entradaInvalida);
-
-    dados_.usaVazpast = true;
-    monta();
-    executaEsperando(CodigoEstado::entradaInvalida);  // Vazpast named but missing
-}
-
-TEST_F(Execucao, FalhaNaoDeixaPrevisaoAntiga) {
-    monta();
-    executaEsperando(CodigoEstado::sucesso);
-    ASSERT_TRUE(fs::exists(pasta() / "1234.prv"));
-    fs::remove(pasta() / "1234.dat");
-    executaEsperando(CodigoEstado::entradaInvalida);
-}
-
-TEST_F(Execucao, HistoricoCurto) {
-    dados_.anoInicialPrev = dados_.anoFinalHistorico = anoInicial + 8;
-    monta();
-    executaEsperando(CodigoEstado::historicoCurto);
-
-    // A forecast week beyond the end of the file has no flow to start from.
-    dados_.anoInicialPrev = dados_.anoFinalHistorico = 2000;
-    monta();
-    dados_.semanaInicialPrev = 30;
-    teste::escreve(pasta() / "1234.arq", teste::arquivoDadosGerais(dados_));
-    executaEsperando(CodigoEstado::historicoCurto);
-}
-
-TEST_F(Execucao, LimitesForaDaFaixa) {
-    dados_.flagLimite = 1;
-    monta();
-    teste::escreve(pasta() / "1234.lim", {"2 ", "5 "});
-    executaEsperando(CodigoEstado::limitesInvalidos);
-    std::vector<std::string> mensais = {"2 ", "2 "};
-    for (int m = 1; m <= 12; ++m) {
-        mensais.push_back(std::to_string(m) + (m < 10 ? " " : "") + (m == 7 ? "  0.0 99.0" : "  1.0 99.0"));
+// Each way a run fails leaves its code and a reason, and no forecast, not even the one a run
+// before it left. Every case starts from a whole station and breaks it in one place.
+TEST_F(Execucao, CadaFalhaDeixaSeuCodigoNoVeredito) {
+    const auto dadosGerais = [this](std::size_t linha, const std::string& texto) {
+        auto linhas = teste::arquivoDadosGerais(dados_);
+        linhas[linha] = texto;
+        teste::escreve(pasta() / "1234.arq", linhas);
+    };
+    const struct {
+        const char* caso;
+        std::function<void()> prepara;
+        CodigoEstado codigo;
+    } falhas[] = {
+        {"sem vazões semanais", [&] { fs::remove(pasta() / "1234.dat"); }, CodigoEstado::entradaInvalida},
+        {"Vazpast pedido e ausente",
+         [&] {
+             dados_.usaVazpast = true;
+             monta();
+         },
+         CodigoEstado::entradaInvalida},
+        {"nove anos de histórico",
+         [&] {
+             dados_.anoInicialPrev = dados_.anoFinalHistorico = anoInicial + 8;
+             monta();
+         },
+         CodigoEstado::historicoCurto},
+        // The week before the forecast lies beyond the end of the file.
+        {"sem vazão anterior à previsão", [&] { dadosGerais(8, "30"); }, CodigoEstado::historicoCurto},
+        // The limits file's checks are the reader's; one shows the code reaching the verdict.
+        {"agrupamento fora da faixa",
+         [&] {
+             dados_.flagLimite = 1;
+             monta();
+             teste::escreve(pasta() / "1234.lim", {"2 ", "5 "});
+         },
+         CodigoEstado::limitesInvalidos},
+    };
+    const teste::DadosGeraisTeste padrao = dados_;
+    for (const auto& falha : falhas) {
+        SCOPED_TRACE(falha.caso);
+        dados_ = padrao;
+        monta();
+        falha.prepara();
+        teste::escreve(pasta() / "1234.prv", {"de uma execução anterior"});
+        executaEsperando(falha.codigo);
     }
-    teste::escreve(pasta() / "1234.lim", mensais);
-    executaEsperando(CodigoEstado::limitesInvalidos);
+    // General data that do not read, or no Caso.dat, leave the forecast file unnamed.
+    dados_ = padrao;
+    monta();
+    dadosGerais(3, "x");
+    executaEsperando(CodigoEstado::entradaInvalida);
+    fs::remove(pasta() / "Caso.dat");
+    executaEsperando(CodigoEstado::entradaInvalida);
 }
 
 // The demo stations of samples/ run as they stand.

@@ -1,6 +1,8 @@
 // The point forecast taken from the scenarios, the climatology it is measured against, and the
 // back-test's choices of weight and transformation.
 
+#include "tests/solver/EstacaoTeste.h"
+
 #include "solver/Climatologia.h"
 #include "solver/Estatistica.h"
 #include "solver/PontoPrevisto.h"
@@ -11,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <random>
 
 namespace {
@@ -105,22 +106,13 @@ TEST(Retroteste, QuemPerdeParaAClimatologiaEmMaisSemanasNaoEOMelhor) {
     EXPECT_EQ(solver::escolhePreferindoOPrimeiro({primeiro, pDesempenho(6, {1.7, 1.6, 1.6, 1.7, 1.7})}), 0u);
 }
 
-// Weekly flows whose logarithm is a seasonal mean plus a first-order autoregression: strongly
-// skewed, as floods make them.
-solver::SerieSemanal pSerieAssimetrica(int anos, unsigned semente) {
-    std::mt19937 gerador(semente);
-    std::normal_distribution<double> normal;
-    std::vector<double> vazoes;
-    double z = 0.0;
-    for (int t = 0; t < anos * 52; ++t) {
-        z = 0.8 * z + 0.6 * normal(gerador);
-        vazoes.push_back(std::exp(3.0 + std::sin(2.0 * std::numbers::pi * (t % 52) / 52.0) + 0.9 * z));
-    }
-    return solver::SerieSemanal(1950, 52, std::move(vazoes));
-}
-
 TEST(Retroteste, EscolheOLogaritmoEmVazoesLogNormaisEBateAClimatologia) {
-    const auto serie = pSerieAssimetrica(30, 21);
+    // A lognormal first-order autoregression, strongly skewed.
+    teste::Processo p = teste::processo(0.8, 0.0, 0.6);
+    p.nivel = 3.0;
+    p.escala = 0.9;
+    p.escalaSazonal = 0.0;
+    const solver::SerieSemanal serie(1950, teste::semanasDoAno, teste::simula(p, 30, 21));
     const auto escolha = solver::escolheModelo(
         serie, serie.tamanho(), {TipoTransformacao::nenhuma, TipoTransformacao::logaritmica}, 0.95);
     ASSERT_EQ(escolha.candidatos.size(), 2u);
