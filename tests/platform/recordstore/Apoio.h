@@ -1,117 +1,52 @@
 #pragma once
 
 #include "platform/recordstore/Recordstore.h"
-#include "tests/platform/runtime/NumeroDoErro.h"
+#include "tests/platform/runtime/Casos.h"
 
-#include <QProcess>
-#include <QStandardPaths>
-#include <QString>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
+#include <cstdint>
+#include <initializer_list>
 #include <memory>
-#include <ostream>
+#include <utility>
 #include <vector>
 
-inline void PrintTo(const QString& s, std::ostream* os) {
-    *os << '"' << s.toStdString() << '"';
-}
+using namespace Qt::StringLiterals;
+using recordstore::CreateField;
+using recordstore::Database;
+using recordstore::Recordset;
+using recordstore::Tipo;
+using recordstore::Valor;
+using Inteiros = std::vector<std::int64_t>;
+
+// AddNew, the fields given, Update.
+void adiciona(Recordset& rs, std::initializer_list<std::pair<const char*, Valor>> campos);
+std::int64_t inteiro(const Recordset& rs, const char* campo);
+QString texto(const Recordset& rs, const char* campo);
+// The field's values from the current record to the end (or the beginning, going back).
+Inteiros ateOFim(Recordset& rs, const char* campo, bool avanca = true);
+// Leaves the handle past the end.
+int contaLinhas(Recordset& rs);
+// Runs the sqlite3 command-line shell on a file; empty when the shell is not installed.
+QString sqlite3(const QString& arquivo, const QString& comandos);
 
 // A fresh database in a folder of its own, with the two shapes of table the stores use most: a
 // catalogue keyed by a code and sorted by a name, and a history under a three-field key.
 class BaseDeTeste : public ::testing::Test {
 protected:
-    void SetUp() override {
-        ASSERT_TRUE(mPasta.isValid());
-        bd = recordstore::Database::CreateDatabase(caminho());
+    void SetUp() override;
+    QString caminho(const QString& nome = u"Corvalin.mdb"_s) const { return mPasta.filePath(nome); }
+    void criaPostos();
+    void criaVazoes();
+    // A field of every type, keyed by Chave; some with defaults, Livre allows a zero-length text.
+    static recordstore::TableDef defTipos();
+    static void adicionaPosto(Recordset& rs, int codigo, const QString& nome) {
+        adiciona(rs, {{"CodigoDoPosto", codigo}, {"NomeDoAproveitamento", nome}});
     }
-
-    QString caminho(const QString& nome = QStringLiteral("Corvalin.mdb")) const {
-        return mPasta.filePath(nome);
-    }
-
-    void criaPostos() {
-        using recordstore::Tipo;
-        recordstore::TableDef t{
-            QStringLiteral("Postos"),
-            {recordstore::CreateField(QStringLiteral("CodigoDoPosto"), Tipo::Long),
-             recordstore::CreateField(QStringLiteral("NomeDoAproveitamento"), Tipo::Texto, 60),
-             recordstore::CreateField(QStringLiteral("AreaDeDrenagem"), Tipo::Single)},
-            {{QStringLiteral("CodigoDoPosto"), true, QStringLiteral("CodigoDoPosto")},
-             {QStringLiteral("NomeDoAproveitamento"), false, QStringLiteral("NomeDoAproveitamento")}}};
-        t.Fields[2].DefaultValue = 0;
-        bd->Append(t);
-    }
-
-    void criaVazoes() {
-        using recordstore::Tipo;
-        bd->Append(
-            {QStringLiteral("VazoesSemanais"),
-             {recordstore::CreateField(QStringLiteral("CodigoDoPosto"), Tipo::Long),
-              recordstore::CreateField(QStringLiteral("Ano"), Tipo::Integer),
-              recordstore::CreateField(QStringLiteral("Semana"), Tipo::Byte),
-              recordstore::CreateField(QStringLiteral("Vazao"), Tipo::Single)},
-             {{QStringLiteral("CodigoDoPostoAnoSemana"), true, QStringLiteral("CodigoDoPosto;+Ano;+Semana")},
-              {QStringLiteral("CodigoDoPosto"), false, QStringLiteral("CodigoDoPosto")}}});
-    }
-
-    static void adicionaPosto(recordstore::Recordset& rs, int codigo, const QString& nome) {
-        rs.AddNew();
-        rs.setCampo(QStringLiteral("CodigoDoPosto"), codigo);
-        rs.setCampo(QStringLiteral("NomeDoAproveitamento"), nome);
-        rs.Update();
-    }
-
-    static void adicionaVazao(recordstore::Recordset& rs, int codigo, int ano, int semana, double vazao) {
-        rs.AddNew();
-        rs.setCampo(QStringLiteral("CodigoDoPosto"), codigo);
-        rs.setCampo(QStringLiteral("Ano"), ano);
-        rs.setCampo(QStringLiteral("Semana"), semana);
-        rs.setCampo(QStringLiteral("Vazao"), vazao);
-        rs.Update();
-    }
-
-    static std::int64_t inteiro(const recordstore::Recordset& rs, const char* campo) {
-        return rs.campo(QString::fromLatin1(campo)).paraInteiro();
-    }
-
-    // The field's values from the current record to the end (or the beginning, going back).
-    static std::vector<std::int64_t> ateOFim(recordstore::Recordset& rs, const char* campo,
-                                             bool avanca = true) {
-        std::vector<std::int64_t> valores;
-        while (avanca ? !rs.Eof() : !rs.Bof()) {
-            valores.push_back(inteiro(rs, campo));
-            avanca ? rs.MoveNext() : rs.MovePrevious();
-        }
-        return valores;
-    }
-
-    static int contaLinhas(recordstore::Recordset& rs) {
-        int n = 0;
-        if (!(rs.Bof() && rs.Eof())) {
-            rs.MoveFirst();
-            for (; !rs.Eof(); rs.MoveNext()) {
-                ++n;
-            }
-        }
-        return n;
-    }
-
-    // Runs the sqlite3 command-line shell on a file; empty when the shell is not installed.
-    static QString sqlite3(const QString& arquivo, const QString& comandos) {
-        const QString programa = QStandardPaths::findExecutable(QStringLiteral("sqlite3"));
-        if (programa.isEmpty()) {
-            return {};
-        }
-        QProcess p;
-        p.start(programa, {arquivo});
-        p.write(comandos.toUtf8());
-        p.closeWriteChannel();
-        p.waitForFinished();
-        return QString::fromUtf8(p.readAllStandardOutput() + p.readAllStandardError());
+    static void adicionaVazao(Recordset& rs, int codigo, int ano, int semana, double vazao) {
+        adiciona(rs, {{"CodigoDoPosto", codigo}, {"Ano", ano}, {"Semana", semana}, {"Vazao", vazao}});
     }
 
     QTemporaryDir mPasta;
-    std::unique_ptr<recordstore::Database> bd;
+    std::unique_ptr<Database> bd;
 };

@@ -1,11 +1,8 @@
 #include "Apoio.h"
 
-using recordstore::Recordset;
-using recordstore::Valor;
+#include <tuple>
 
 namespace {
-
-using Ints = std::vector<std::int64_t>;
 
 class Cursor : public BaseDeTeste {
 protected:
@@ -13,24 +10,24 @@ protected:
         BaseDeTeste::SetUp();
         criaPostos();
         criaVazoes();
-        postos = bd->OpenRecordset(QStringLiteral("Postos"));
-        vazoes = bd->OpenRecordset(QStringLiteral("VazoesSemanais"));
+        postos = bd->OpenRecordset(u"Postos"_s);
+        vazoes = bd->OpenRecordset(u"VazoesSemanais"_s);
     }
 
     // Station 1: 1998 weeks 1-3, 1999 weeks 1-2; station 2: 1998 week 2, 1999 weeks 1 and 3;
-    // written out of key order, so that physical order and index order differ.
+    // written out of key order, so that physical order and index order differ. The flow is the key.
     void preencheVazoes() {
-        for (const auto& [codigo, ano, semana] : std::vector<std::tuple<int, int, int>>{{2, 1999, 3},
-                                                                                        {1, 1998, 1},
-                                                                                        {2, 1998, 2},
-                                                                                        {1, 1999, 2},
-                                                                                        {1, 1998, 3},
-                                                                                        {2, 1999, 1},
-                                                                                        {1, 1998, 2},
-                                                                                        {1, 1999, 1}}) {
+        for (const auto& [codigo, ano, semana] : {std::tuple{2, 1999, 3},
+                                                  {1, 1998, 1},
+                                                  {2, 1998, 2},
+                                                  {1, 1999, 2},
+                                                  {1, 1998, 3},
+                                                  {2, 1999, 1},
+                                                  {1, 1998, 2},
+                                                  {1, 1999, 1}}) {
             adicionaVazao(*vazoes, codigo, ano, semana, codigo * 10000 + ano % 100 * 100 + semana);
         }
-        vazoes->setIndex(QStringLiteral("CodigoDoPostoAnoSemana"));
+        vazoes->setIndex(u"CodigoDoPostoAnoSemana"_s);
     }
 
     std::unique_ptr<Recordset> postos;
@@ -40,39 +37,31 @@ protected:
 }  // namespace
 
 TEST_F(Cursor, AnEmptyTableStandsAtBothEndsAndRefusesEveryMove) {
-    EXPECT_TRUE(postos->Bof());
-    EXPECT_TRUE(postos->Eof());
-    EXPECT_EQ(numeroDoErro([&] { postos->MoveFirst(); }), 3021);
-    EXPECT_EQ(numeroDoErro([&] { postos->MoveLast(); }), 3021);
-    EXPECT_EQ(numeroDoErro([&] { postos->MoveNext(); }), 3021);
-    EXPECT_EQ(numeroDoErro([&] { postos->MovePrevious(); }), 3021);
-    EXPECT_EQ(numeroDoErro([&] { postos->campo(QStringLiteral("CodigoDoPosto")); }), 3021);
-    EXPECT_EQ(numeroDoErro([&] { postos->Bookmark(); }), 3021);
-    EXPECT_EQ(numeroDoErro([&] { postos->Edit(); }), 3021);
-    EXPECT_EQ(numeroDoErro([&] { postos->Delete(); }), 3021);
-    postos->setIndex(QStringLiteral("CodigoDoPosto"));
-    postos->Seek(QStringLiteral("="), {1});
-    EXPECT_TRUE(postos->NoMatch());
-    EXPECT_TRUE(postos->Eof());
-}
+    EXPECT_TRUE(postos->Bof() && postos->Eof());
+    confere<int>({ERRO(postos->MoveFirst(), 3021), ERRO(postos->MoveLast(), 3021),
+                  ERRO(postos->MoveNext(), 3021), ERRO(postos->MovePrevious(), 3021),
+                  ERRO(postos->campo(u"CodigoDoPosto"_s), 3021), ERRO(postos->Bookmark(), 3021),
+                  ERRO(postos->Edit(), 3021), ERRO(postos->Delete(), 3021)});
+    postos->setIndex(u"CodigoDoPosto"_s);
+    postos->Seek(u"="_s, {1});
+    EXPECT_TRUE(postos->NoMatch() && postos->Eof());
 
-TEST_F(Cursor, TheFirstRecordAddedToAnEmptyTableLeavesTheHandlePastTheEnd) {
-    adicionaPosto(*postos, 7, QStringLiteral("Furnas"));
-    EXPECT_FALSE(postos->Bof());
-    EXPECT_TRUE(postos->Eof());
+    // The first record added leaves the handle past the end.
+    adicionaPosto(*postos, 7, u"Furnas"_s);
+    EXPECT_TRUE(!postos->Bof() && postos->Eof());
     postos->MovePrevious();
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 7);
     EXPECT_FALSE(postos->Eof());
 }
 
-TEST_F(Cursor, AddNewAndUpdateKeepTheFormerCurrentRecord) {
-    postos->setIndex(QStringLiteral("CodigoDoPosto"));
+TEST_F(Cursor, AddNewKeepsTheFormerCurrentRecordAndEditTheEditedOne) {
+    postos->setIndex(u"CodigoDoPosto"_s);
     for (const int codigo : {10, 20, 30}) {
-        adicionaPosto(*postos, codigo, QStringLiteral("P%1").arg(codigo));
+        adicionaPosto(*postos, codigo, u"P%1"_s.arg(codigo));
     }
-    postos->Seek(QStringLiteral("="), {20});
-    adicionaPosto(*postos, 15, QStringLiteral("P15"));
-    adicionaPosto(*postos, 25, QStringLiteral("P25"));
+    postos->Seek(u"="_s, {20});
+    adicionaPosto(*postos, 15, u"P15"_s);
+    adicionaPosto(*postos, 25, u"P25"_s);
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 20);
     postos->MoveNext();
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 25);  // the new records take their place in the order
@@ -81,7 +70,7 @@ TEST_F(Cursor, AddNewAndUpdateKeepTheFormerCurrentRecord) {
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 15);
 
     postos->Edit();
-    postos->setCampo(QStringLiteral("CodigoDoPosto"), 35);
+    postos->setCampo(u"CodigoDoPosto"_s, 35);
     postos->Update();
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 35);  // the edited record stays current, at its new place
     postos->MovePrevious();
@@ -92,18 +81,15 @@ TEST_F(Cursor, MovingPastEitherEndSetsBofOrEofAndOneMoreMoveFails) {
     preencheVazoes();
     vazoes->MoveFirst();
     vazoes->MovePrevious();
-    EXPECT_TRUE(vazoes->Bof());
-    EXPECT_FALSE(vazoes->Eof());
-    EXPECT_EQ(numeroDoErro([&] { vazoes->MovePrevious(); }), 3021);
-    EXPECT_EQ(numeroDoErro([&] { vazoes->campo(QStringLiteral("Ano")); }), 3021);
+    EXPECT_TRUE(vazoes->Bof() && !vazoes->Eof());
+    confere<int>({ERRO(vazoes->MovePrevious(), 3021), ERRO(vazoes->campo(u"Ano"_s), 3021)});
     vazoes->MoveNext();
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 19801);
 
     vazoes->MoveLast();
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 29903);
     vazoes->MoveNext();
-    EXPECT_TRUE(vazoes->Eof());
-    EXPECT_FALSE(vazoes->Bof());
+    EXPECT_TRUE(vazoes->Eof() && !vazoes->Bof());
     EXPECT_EQ(numeroDoErro([&] { vazoes->MoveNext(); }), 3021);
     vazoes->MovePrevious();
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 29903);
@@ -111,11 +97,11 @@ TEST_F(Cursor, MovingPastEitherEndSetsBofOrEofAndOneMoreMoveFails) {
 
 TEST_F(Cursor, WalksFollowTheCurrentIndexBothWays) {
     preencheVazoes();
-    const Ints emOrdem{19801, 19802, 19803, 19901, 19902, 29802, 29901, 29903};
+    const Inteiros emOrdem{19801, 19802, 19803, 19901, 19902, 29802, 29901, 29903};
     vazoes->MoveFirst();
     EXPECT_EQ(ateOFim(*vazoes, "Vazao"), emOrdem);
     vazoes->MoveLast();
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao", false), Ints(emOrdem.rbegin(), emOrdem.rend()));
+    EXPECT_EQ(ateOFim(*vazoes, "Vazao", false), Inteiros(emOrdem.rbegin(), emOrdem.rend()));
 
     // Turning back in the middle of a walk.
     vazoes->MoveFirst();
@@ -126,7 +112,7 @@ TEST_F(Cursor, WalksFollowTheCurrentIndexBothWays) {
 
     vazoes->setIndex({});
     vazoes->MoveFirst();
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), (Ints{29903, 19801, 29802, 19902, 19803, 29901, 19802, 19901}));
+    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), (Inteiros{29903, 19801, 29802, 19902, 19803, 29901, 19802, 19901}));
 }
 
 TEST_F(Cursor, AnotherIndexMakesItsFirstRecordCurrent) {
@@ -135,64 +121,57 @@ TEST_F(Cursor, AnotherIndexMakesItsFirstRecordCurrent) {
     }
     EXPECT_EQ(postos->Index(), "");
     postos->MoveLast();
-    postos->setIndex(QStringLiteral("nomedoaproveitamento"));  // names ignore case
+    postos->setIndex(u"nomedoaproveitamento"_s);  // names ignore case
     EXPECT_EQ(postos->Index(), "NomeDoAproveitamento");
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 2);
     postos->MoveNext();
-    postos->setIndex(QStringLiteral("CodigoDoPosto"));
+    postos->setIndex(u"CodigoDoPosto"_s);
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 1);
-    EXPECT_EQ(numeroDoErro([&] { postos->setIndex(QStringLiteral("Nome")); }), 3800);
+    EXPECT_EQ(numeroDoErro([&] { postos->setIndex(u"Nome"_s); }), 3800);
     EXPECT_EQ(postos->Index(), "CodigoDoPosto");
     postos->setIndex({});
-    EXPECT_EQ(numeroDoErro([&] { postos->Seek(QStringLiteral("="), {1}); }), 3019);
+    EXPECT_EQ(numeroDoErro([&] { postos->Seek(u"="_s, {1}); }), 3019);
 }
 
 TEST_F(Cursor, SeekFindsTheFirstRecordOverAPrefixOfTheKey) {
     preencheVazoes();
+    // The flow found, -1 for no match (the handle then stands past the end).
     const auto seek = [&](const char* comparacao, std::initializer_list<Valor> chave) -> std::int64_t {
         vazoes->Seek(QString::fromLatin1(comparacao), chave);
+        EXPECT_EQ(vazoes->NoMatch(), vazoes->Eof());
         return vazoes->NoMatch() ? -1 : inteiro(*vazoes, "Vazao");
     };
-    EXPECT_EQ(seek("=", {2}), 29802);
-    EXPECT_EQ(seek("=", {1, 1999}), 19901);
-    EXPECT_EQ(seek("=", {2, 1999, 3}), 29903);
-    EXPECT_EQ(seek(">=", {1, 1998, 4}), 19901);
-    EXPECT_EQ(seek(">=", {1, 2000}), 29802);
-    EXPECT_EQ(seek(">=", {0}), 19801);
-    EXPECT_EQ(seek("=", {2, 1999, 2}), -1);
-    EXPECT_TRUE(vazoes->Eof());
-    EXPECT_EQ(seek(">=", {2, 1999, 4}), -1);
-    EXPECT_TRUE(vazoes->Eof());
-    EXPECT_EQ(numeroDoErro([&] { seek("=", {1, 1998, 1, 1}); }), 3001);
-    EXPECT_EQ(numeroDoErro([&] { seek("<", {1}); }), 3001);
+    confere<std::int64_t>({CASO(seek("=", {2}), 29802), CASO(seek("=", {1, 1999}), 19901),
+                           CASO(seek("=", {2, 1999, 3}), 29903), CASO(seek(">=", {1, 1998, 4}), 19901),
+                           CASO(seek(">=", {1, 2000}), 29802), CASO(seek(">=", {0}), 19801),
+                           CASO(seek("=", {2, 1999, 2}), -1), CASO(seek(">=", {2, 1999, 4}), -1)});
+    confere<int>({ERRO(seek("=", {1, 1998, 1, 1}), 3001), ERRO(seek("<", {1}), 3001)});
 
     // From a match the walk goes on past the equal keys, and back into the station before.
     seek("=", {1, 1999});
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), (Ints{19901, 19902, 29802, 29901, 29903}));
+    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), (Inteiros{19901, 19902, 29802, 29901, 29903}));
     seek("=", {2});
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao", false), (Ints{29802, 19902, 19901, 19803, 19802, 19801}));
+    EXPECT_EQ(ateOFim(*vazoes, "Vazao", false), (Inteiros{29802, 19902, 19901, 19803, 19802, 19801}));
 }
 
 TEST_F(Cursor, DuplicatesOfANonUniqueIndexKeepTheOrderOfInsertion) {
-    for (const int codigo : {5, 3, 9}) {
-        adicionaPosto(*postos, codigo, QStringLiteral("Furnas"));
+    for (const auto& [codigo, nome] :
+         {std::pair{5, "Furnas"}, {3, "Furnas"}, {9, "Furnas"}, {1, "Emborcação"}, {4, "Furnas"}}) {
+        adicionaPosto(*postos, codigo, QString::fromUtf8(nome));
     }
-    adicionaPosto(*postos, 1, QStringLiteral("Emborcação"));
-    adicionaPosto(*postos, 4, QStringLiteral("Furnas"));
-    postos->setIndex(QStringLiteral("NomeDoAproveitamento"));
-    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto"), (Ints{1, 5, 3, 9, 4}));
+    postos->setIndex(u"NomeDoAproveitamento"_s);
+    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto"), (Inteiros{1, 5, 3, 9, 4}));
     postos->MoveLast();
-    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto", false), (Ints{4, 9, 3, 5, 1}));
-    postos->Seek(QStringLiteral("="), {QStringLiteral("Furnas")});
-    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto"), (Ints{5, 3, 9, 4}));
+    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto", false), (Inteiros{4, 9, 3, 5, 1}));
+    postos->Seek(u"="_s, {u"Furnas"_s});
+    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto"), (Inteiros{5, 3, 9, 4}));
 }
 
 TEST_F(Cursor, AfterDeleteTheMovesGoFromTheDeletedRecordsPlace) {
     preencheVazoes();
-    vazoes->Seek(QStringLiteral("="), {1, 1998, 3});
+    vazoes->Seek(u"="_s, {1, 1998, 3});
     vazoes->Delete();
-    EXPECT_EQ(numeroDoErro([&] { vazoes->campo(QStringLiteral("Vazao")); }), 3167);
-    EXPECT_EQ(numeroDoErro([&] { vazoes->Bookmark(); }), 3167);
+    confere<int>({ERRO(vazoes->campo(u"Vazao"_s), 3167), ERRO(vazoes->Bookmark(), 3167)});
     EXPECT_FALSE(vazoes->Bof() || vazoes->Eof());
     vazoes->MoveNext();
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 19901);
@@ -201,14 +180,14 @@ TEST_F(Cursor, AfterDeleteTheMovesGoFromTheDeletedRecordsPlace) {
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 19802);
 
     // Deleting one station's rows as the history store does: seek, then delete and move on.
-    vazoes->Seek(QStringLiteral(">="), {1});
+    vazoes->Seek(u">="_s, {1});
     while (!vazoes->Eof() && inteiro(*vazoes, "CodigoDoPosto") == 1) {
         vazoes->Delete();
         vazoes->MoveNext();
     }
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 29802);
     vazoes->MoveFirst();
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), (Ints{29802, 29901, 29903}));
+    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), (Inteiros{29802, 29901, 29903}));
     vazoes->MoveLast();
     vazoes->Delete();
     vazoes->MoveNext();
@@ -217,9 +196,9 @@ TEST_F(Cursor, AfterDeleteTheMovesGoFromTheDeletedRecordsPlace) {
 
 TEST_F(Cursor, ABookmarkBringsBackItsRecordUnderAnyIndex) {
     preencheVazoes();
-    vazoes->Seek(QStringLiteral("="), {2, 1998});
+    vazoes->Seek(u"="_s, {2, 1998});
     const auto marca = vazoes->Bookmark();
-    vazoes->setIndex(QStringLiteral("CodigoDoPosto"));
+    vazoes->setIndex(u"CodigoDoPosto"_s);
     vazoes->setBookmark(marca);
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 29802);
     vazoes->MoveNext();  // in the order of the new index: station 2 in insertion order
@@ -230,34 +209,29 @@ TEST_F(Cursor, ABookmarkBringsBackItsRecordUnderAnyIndex) {
 }
 
 TEST_F(Cursor, MovingDropsAPendingEdit) {
-    adicionaPosto(*postos, 1, QStringLiteral("Furnas"));
+    adicionaPosto(*postos, 1, u"Furnas"_s);
     postos->AddNew();
-    postos->setCampo(QStringLiteral("CodigoDoPosto"), 2);
-    postos->setCampo(QStringLiteral("NomeDoAproveitamento"), QStringLiteral("Itaipu"));
+    postos->setCampo(u"CodigoDoPosto"_s, 2);
+    postos->setCampo(u"NomeDoAproveitamento"_s, u"Itaipu"_s);
     postos->MoveFirst();
     EXPECT_EQ(numeroDoErro([&] { postos->Update(); }), 3020);
     postos->Edit();
-    postos->setCampo(QStringLiteral("NomeDoAproveitamento"), QStringLiteral("Outro"));
-    postos->setIndex(QStringLiteral("CodigoDoPosto"));
+    postos->setCampo(u"NomeDoAproveitamento"_s, u"Outro"_s);
+    postos->setIndex(u"CodigoDoPosto"_s);
     EXPECT_EQ(numeroDoErro([&] { postos->Update(); }), 3020);
     EXPECT_EQ(contaLinhas(*postos), 1);
     postos->MoveFirst();
-    EXPECT_EQ(postos->campo(QStringLiteral("NomeDoAproveitamento")).paraTexto(), "Furnas");
+    EXPECT_EQ(texto(*postos, "NomeDoAproveitamento"), "Furnas");
 }
 
 TEST_F(Cursor, NullKeysSortFirstAndDescendingKeysWalkDownwards) {
-    bd->Append({QStringLiteral("Medidas"),
-                {recordstore::CreateField(QStringLiteral("Ano"), recordstore::Tipo::Integer),
-                 recordstore::CreateField(QStringLiteral("Ordem"), recordstore::Tipo::Long)},
-                {{QStringLiteral("AnoDesc"), false, QStringLiteral("-Ano;+Ordem")},
-                 {QStringLiteral("Ano"), false, QStringLiteral("Ano")}}});
-    auto rs = bd->OpenRecordset(QStringLiteral("Medidas"));
+    bd->Append({u"Medidas"_s,
+                {CreateField(u"Ano"_s, Tipo::Integer), CreateField(u"Ordem"_s, Tipo::Long)},
+                {{u"AnoDesc"_s, false, u"-Ano;+Ordem"_s}, {u"Ano"_s, false, u"Ano"_s}}});
+    auto rs = bd->OpenRecordset(u"Medidas"_s);
     int ordem = 0;
     for (const Valor& ano : {Valor(1998), Valor(), Valor(2000), Valor(1998), Valor()}) {
-        rs->AddNew();
-        rs->setCampo(QStringLiteral("Ano"), ano);
-        rs->setCampo(QStringLiteral("Ordem"), ++ordem);
-        rs->Update();
+        adiciona(*rs, {{"Ano", ano}, {"Ordem", ++ordem}});
     }
     // A move from a record reached by bookmark seeks afresh from its keys, Null ones included
     // (0: past the end).
@@ -266,7 +240,7 @@ TEST_F(Cursor, NullKeysSortFirstAndDescendingKeysWalkDownwards) {
         for (rs->MoveFirst(); !rs->Eof(); rs->MoveNext()) {
             marcas.push_back(rs->Bookmark());
         }
-        Ints lidos;
+        Inteiros lidos;
         for (const auto marca : marcas) {
             rs->setBookmark(marca);
             avanca ? rs->MoveNext() : rs->MovePrevious();
@@ -274,39 +248,41 @@ TEST_F(Cursor, NullKeysSortFirstAndDescendingKeysWalkDownwards) {
         }
         return lidos;
     };
-    rs->setIndex(QStringLiteral("Ano"));
-    EXPECT_EQ(ateOFim(*rs, "Ordem"), (Ints{2, 5, 1, 4, 3}));
-    rs->MoveLast();
-    EXPECT_EQ(ateOFim(*rs, "Ordem", false), (Ints{3, 4, 1, 5, 2}));
-    EXPECT_EQ(vizinhos(true), (Ints{5, 1, 4, 3, 0}));
-    EXPECT_EQ(vizinhos(false), (Ints{0, 2, 5, 1, 4}));
-    rs->setIndex(QStringLiteral("AnoDesc"));
-    EXPECT_EQ(ateOFim(*rs, "Ordem"), (Ints{3, 1, 4, 2, 5}));
-    rs->MoveLast();
-    EXPECT_EQ(ateOFim(*rs, "Ordem", false), (Ints{5, 2, 4, 1, 3}));
-    EXPECT_EQ(vizinhos(true), (Ints{1, 4, 2, 5, 0}));
-    EXPECT_EQ(vizinhos(false), (Ints{0, 3, 1, 4, 2}));
-    rs->Seek(QStringLiteral(">="), {1999});  // "follows" in the index's own, descending, order
+    const auto paraTras = [&] {
+        rs->MoveLast();
+        return ateOFim(*rs, "Ordem", false);
+    };
+    rs->setIndex(u"Ano"_s);
+    EXPECT_EQ(ateOFim(*rs, "Ordem"), (Inteiros{2, 5, 1, 4, 3}));
+    EXPECT_EQ(paraTras(), (Inteiros{3, 4, 1, 5, 2}));
+    EXPECT_EQ(vizinhos(true), (Inteiros{5, 1, 4, 3, 0}));
+    EXPECT_EQ(vizinhos(false), (Inteiros{0, 2, 5, 1, 4}));
+    rs->setIndex(u"AnoDesc"_s);
+    EXPECT_EQ(ateOFim(*rs, "Ordem"), (Inteiros{3, 1, 4, 2, 5}));
+    EXPECT_EQ(paraTras(), (Inteiros{5, 2, 4, 1, 3}));
+    EXPECT_EQ(vizinhos(true), (Inteiros{1, 4, 2, 5, 0}));
+    EXPECT_EQ(vizinhos(false), (Inteiros{0, 3, 1, 4, 2}));
+    rs->Seek(u">="_s, {1999});  // "follows" in the index's own, descending, order
     EXPECT_EQ(inteiro(*rs, "Ordem"), 1);
 }
 
 TEST_F(Cursor, ACloneWalksOnItsOwnAndSharesBookmarks) {
-    adicionaPosto(*postos, 1, QStringLiteral("Tucuruí"));
-    adicionaPosto(*postos, 2, QStringLiteral("Furnas"));
-    adicionaPosto(*postos, 3, QStringLiteral("Itaipu"));
-    postos->setIndex(QStringLiteral("NomeDoAproveitamento"));
+    adicionaPosto(*postos, 1, u"Tucuruí"_s);
+    adicionaPosto(*postos, 2, u"Furnas"_s);
+    adicionaPosto(*postos, 3, u"Itaipu"_s);
+    postos->setIndex(u"NomeDoAproveitamento"_s);
     postos->MoveLast();
 
     auto clone = postos->Clone();
-    EXPECT_EQ(clone->Index(), QStringLiteral("NomeDoAproveitamento"));
-    EXPECT_EQ(clone->campo(QStringLiteral("CodigoDoPosto")).paraInteiro(), 2) << "a clone starts on the first record";
+    EXPECT_EQ(clone->Index(), u"NomeDoAproveitamento"_s);
+    EXPECT_EQ(inteiro(*clone, "CodigoDoPosto"), 2) << "a clone starts on the first record";
     clone->MoveNext();
     const recordstore::Bookmark itaipu = clone->Bookmark();
-    EXPECT_EQ(postos->campo(QStringLiteral("CodigoDoPosto")).paraInteiro(), 1) << "the original did not move";
+    EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 1) << "the original did not move";
 
     postos->setBookmark(itaipu);
-    EXPECT_EQ(postos->campo(QStringLiteral("NomeDoAproveitamento")).paraTexto(), QStringLiteral("Itaipu"));
-    adicionaPosto(*postos, 4, QStringLiteral("Angra"));
+    EXPECT_EQ(texto(*postos, "NomeDoAproveitamento"), u"Itaipu"_s);
+    adicionaPosto(*postos, 4, u"Angra"_s);
     clone->MoveFirst();
-    EXPECT_EQ(clone->campo(QStringLiteral("CodigoDoPosto")).paraInteiro(), 4) << "the clone sees the original's writes";
+    EXPECT_EQ(inteiro(*clone, "CodigoDoPosto"), 4) << "the clone sees the original's writes";
 }

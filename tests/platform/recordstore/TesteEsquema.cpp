@@ -2,96 +2,62 @@
 
 #include <QFile>
 
-using recordstore::Database;
+#include <tuple>
+
 using recordstore::FieldDef;
-using recordstore::Tipo;
-using recordstore::Valor;
 
 namespace {
 
 using Esquema = BaseDeTeste;
 
-void esperaIguais(const std::vector<FieldDef>& lidos, const std::vector<FieldDef>& esperados) {
-    ASSERT_EQ(lidos.size(), esperados.size());
-    for (std::size_t i = 0; i < lidos.size(); ++i) {
-        SCOPED_TRACE(esperados[i].Name.toStdString());
-        EXPECT_EQ(lidos[i].Name, esperados[i].Name);
-        EXPECT_EQ(lidos[i].Type, esperados[i].Type);
-        EXPECT_EQ(lidos[i].Size, esperados[i].Size);
-        EXPECT_EQ(lidos[i].AllowZeroLength, esperados[i].AllowZeroLength);
-        EXPECT_EQ(lidos[i].DefaultValue, esperados[i].DefaultValue);
+// Every attribute of the fields, in order, for a comparison that names the field that differs.
+std::vector<std::tuple<QString, Tipo, int, bool, Valor>> descricao(const std::vector<FieldDef>& campos) {
+    std::vector<std::tuple<QString, Tipo, int, bool, Valor>> lidos;
+    for (const FieldDef& c : campos) {
+        lidos.emplace_back(c.Name, c.Type, c.Size, c.AllowZeroLength, c.DefaultValue);
     }
-}
-
-recordstore::TableDef tabelaCompleta() {
-    recordstore::TableDef t{QStringLiteral("Completa"),
-                            {recordstore::CreateField(QStringLiteral("Codigo"), Tipo::Long),
-                             recordstore::CreateField(QStringLiteral("Ativo"), Tipo::Boolean),
-                             recordstore::CreateField(QStringLiteral("Tipo"), Tipo::Byte),
-                             recordstore::CreateField(QStringLiteral("Ano"), Tipo::Integer),
-                             recordstore::CreateField(QStringLiteral("Area"), Tipo::Single),
-                             recordstore::CreateField(QStringLiteral("Limite"), Tipo::Double),
-                             recordstore::CreateField(QStringLiteral("Data"), Tipo::DataHora),
-                             recordstore::CreateField(QStringLiteral("Nome"), Tipo::Texto, 60),
-                             recordstore::CreateField(QStringLiteral("Arquivo"), Tipo::Texto, 12)},
-                            {{QStringLiteral("CodigoAno"), true, QStringLiteral("Codigo;-Ano")},
-                             {QStringLiteral("Nome"), false, QStringLiteral("Nome")}}};
-    t.Fields[1].DefaultValue = true;
-    t.Fields[3].DefaultValue = -1;
-    t.Fields[4].DefaultValue = 0.1f;
-    t.Fields[6].DefaultValue = "2000-01-01 00:00:00";
-    t.Fields[7].DefaultValue = "O'Neil";
-    t.Fields[8].AllowZeroLength = true;
-    return t;
+    return lidos;
 }
 
 }  // namespace
 
 TEST_F(Esquema, AReopenedFileHasTheSameFieldsAndIndexes) {
-    const auto definicao = tabelaCompleta();
+    const auto definicao = defTipos();
     bd->Append(definicao);
     auto esperados = definicao.Fields;  // defaults come back in the field's own type
     esperados[3].DefaultValue = std::int64_t{-1};
     esperados[4].DefaultValue = static_cast<double>(0.1f);
-    esperados[6].DefaultValue = Valor(QStringLiteral("2000-01-01")).paraDataHora();
-    esperaIguais(bd->Fields(QStringLiteral("completa")), esperados);
+    esperados[6].DefaultValue = Valor(u"2000-01-01"_s).paraDataHora();
+    EXPECT_EQ(descricao(bd->Fields(u"tipos"_s)), descricao(esperados));
     bd.reset();
 
     bd = Database::OpenDatabase(caminho());
-    EXPECT_EQ(bd->NomesDasTabelas(), std::vector<QString>{QStringLiteral("Completa")});
-    esperaIguais(bd->Fields(QStringLiteral("Completa")), esperados);
-    auto rs = bd->OpenRecordset(QStringLiteral("Completa"));
-    for (const auto& [codigo, ano] : {std::pair{1, 1998}, {1, 2000}, {2, 1999}}) {
-        rs->AddNew();
-        rs->setCampo(QStringLiteral("Codigo"), codigo);
-        rs->setCampo(QStringLiteral("Ano"), ano);
-        rs->Update();
+    EXPECT_EQ(bd->NomesDasTabelas(), std::vector<QString>{u"Tipos"_s});
+    EXPECT_EQ(descricao(bd->Fields(u"Tipos"_s)), descricao(esperados));
+    auto rs = bd->OpenRecordset(u"Tipos"_s);
+    for (const auto& [chave, octeto, curto] : {std::tuple{1, 1, 1998}, {2, 1, 2000}, {3, 2, 1999}}) {
+        adiciona(*rs, {{"Chave", chave}, {"Octeto", octeto}, {"Curto", curto}});
     }
-    rs->setIndex(QStringLiteral("CodigoAno"));
-    EXPECT_EQ(ateOFim(*rs, "Ano"), (std::vector<std::int64_t>{2000, 1998, 1999}));
-    rs->setIndex(QStringLiteral("Nome"));  // not unique: every row has the default name
+    rs->setIndex(u"OctetoCurto"_s);
+    EXPECT_EQ(ateOFim(*rs, "Curto"), (Inteiros{2000, 1998, 1999}));
+    rs->setIndex(u"Nome"_s);  // not unique: every row has the default name
     EXPECT_EQ(contaLinhas(*rs), 3);
-    rs->AddNew();
-    rs->setCampo(QStringLiteral("Codigo"), 1);
-    rs->setCampo(QStringLiteral("Ano"), 2000);
-    EXPECT_EQ(numeroDoErro([&] { rs->Update(); }), 3022);
-    rs->setCampo(QStringLiteral("Arquivo"), QString());
-    rs->setCampo(QStringLiteral("Nome"), QString());
-    rs->setCampo(QStringLiteral("Ano"), 2001);
-    EXPECT_EQ(numeroDoErro([&] { rs->Update(); }), 3315);
+    confere<int>({ERRO(adiciona(*rs, {{"Chave", 1}}), 3022),
+                  ERRO(adiciona(*rs, {{"Chave", 4}, {"Livre", QString()}, {"Nome", QString()}}), 3315)});
 }
 
 TEST_F(Esquema, TheSqlite3ShellReadsTheSchemaNaturally) {
     criaPostos();
     criaVazoes();
     bd->Close();
-    const QString esquema = sqlite3(caminho(), QStringLiteral(".schema\nPRAGMA journal_mode;\n"));
+    const QString esquema = sqlite3(caminho(), u".schema\nPRAGMA journal_mode;\n"_s);
     if (esquema.isEmpty()) {
         GTEST_SKIP() << "sqlite3 is not installed";
     }
     for (const char* trecho :
          {"\"CodigoDoPosto\" LONG,",
-          "\"NomeDoAproveitamento\" TEXT(60) COLLATE GERAL CHECK (\"NomeDoAproveitamento\" <> '' COLLATE BINARY),",
+          "\"NomeDoAproveitamento\" TEXT(60) COLLATE GERAL CHECK (\"NomeDoAproveitamento\" <> '' COLLATE "
+          "BINARY),",
           "\"AreaDeDrenagem\" SINGLE DEFAULT 0", "\"Ano\" INTEGER,", "\"Semana\" BYTE,",
           "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON \"Postos\" (\"CodigoDoPosto\");",
           "CREATE INDEX \"Postos.NomeDoAproveitamento\" ON \"Postos\" (\"NomeDoAproveitamento\");",
@@ -105,102 +71,85 @@ TEST_F(Esquema, TheSqlite3ShellReadsTheSchemaNaturally) {
 
 TEST_F(Esquema, AFileMadeByHandWithTheDeclaredTypesWorksAlike) {
     bd->Close();
-    const QString feito = caminho(QStringLiteral("manual.mdb"));
+    const QString feito = caminho(u"manual.mdb"_s);
     sqlite3(feito,
-            QStringLiteral(
-                "CREATE TABLE Postos (CodigoDoPosto long, NomeDoAproveitamento text(60), "
-                "Flag byte, Area Single DEFAULT 2.5);"
-                "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON Postos (CodigoDoPosto);"
-                "CREATE INDEX \"Postos.Nome\" ON Postos (NomeDoAproveitamento);"
-                "INSERT INTO Postos VALUES (1, 'caconde', 1, 1), (2, 'FURNAS', 2, 2), (3, 'Barra', 3, 3);"));
+            u"CREATE TABLE Postos (CodigoDoPosto long, NomeDoAproveitamento text(60), "
+            "Flag byte, Area Single DEFAULT 2.5);"
+            "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON Postos (CodigoDoPosto);"
+            "CREATE INDEX \"Postos.Nome\" ON Postos (NomeDoAproveitamento);"
+            "INSERT INTO Postos VALUES (1, 'caconde', 1, 1), (2, 'FURNAS', 2, 2), (3, 'Barra', 3, 3);"_s);
     if (!QFile::exists(feito)) {
         GTEST_SKIP() << "sqlite3 is not installed";
     }
     bd = Database::OpenDatabase(feito);
-    esperaIguais(bd->Fields(QStringLiteral("Postos")),
-                 {{QStringLiteral("CodigoDoPosto"), Tipo::Long, 0, false, {}},
-                  {QStringLiteral("NomeDoAproveitamento"), Tipo::Texto, 60, true, {}},
-                  {QStringLiteral("Flag"), Tipo::Byte, 0, false, {}},
-                  {QStringLiteral("Area"), Tipo::Single, 0, false, 2.5}});
-    auto rs = bd->OpenRecordset(QStringLiteral("Postos"));
-    rs->setIndex(QStringLiteral("Nome"));
-    EXPECT_EQ(ateOFim(*rs, "CodigoDoPosto"), (std::vector<std::int64_t>{3, 1, 2}));  // not the binary order
-    rs->Seek(QStringLiteral("="), {QStringLiteral("furnas")});
+    EXPECT_EQ(descricao(bd->Fields(u"Postos"_s)),
+              descricao({{u"CodigoDoPosto"_s, Tipo::Long, 0, false, {}},
+                         {u"NomeDoAproveitamento"_s, Tipo::Texto, 60, true, {}},
+                         {u"Flag"_s, Tipo::Byte, 0, false, {}},
+                         {u"Area"_s, Tipo::Single, 0, false, 2.5}}));
+    auto rs = bd->OpenRecordset(u"Postos"_s);
+    rs->setIndex(u"Nome"_s);
+    EXPECT_EQ(ateOFim(*rs, "CodigoDoPosto"), (Inteiros{3, 1, 2}));  // not the binary order
+    rs->Seek(u"="_s, {u"furnas"_s});
     ASSERT_FALSE(rs->NoMatch());
     EXPECT_EQ(inteiro(*rs, "Flag"), 2);
-    rs->AddNew();
-    rs->setCampo(QStringLiteral("CodigoDoPosto"), 2);
-    EXPECT_EQ(numeroDoErro([&] { rs->Update(); }), 3022);
-}
-
-TEST_F(Esquema, AFileThatIsNoDatabaseOpensAndFailsAtTheFirstTable) {
-    bd->Close();
-    QFile lixo(caminho(QStringLiteral("lixo.mdb")));
-    ASSERT_TRUE(lixo.open(QIODevice::WriteOnly));
-    lixo.write(QByteArray("isto não é um banco de dados, só texto solto. ").repeated(100));
-    lixo.close();
-    bd = Database::OpenDatabase(lixo.fileName());
-    EXPECT_EQ(numeroDoErro([&] { bd->OpenRecordset(QStringLiteral("CasoCORVALIN")); }), 3343);
+    EXPECT_EQ(numeroDoErro([&] { adiciona(*rs, {{"CodigoDoPosto", 2}}); }), 3022);
 }
 
 TEST_F(Esquema, FilesAndTablesReportTheEnginesErrors) {
     criaPostos();
-    EXPECT_EQ(numeroDoErro([&] { Database::CreateDatabase(caminho()); }), 3204);
-    EXPECT_EQ(numeroDoErro([&] { Database::CreateDatabase(caminho(QStringLiteral("nao/existe.mdb"))); }),
-              3044);
-    EXPECT_EQ(numeroDoErro([&] { Database::OpenDatabase(caminho(QStringLiteral("outro.mdb"))); }), 3024);
-    EXPECT_EQ(numeroDoErro([&] { criaPostos(); }), 3010);
-    EXPECT_EQ(numeroDoErro([&] { bd->OpenRecordset(QStringLiteral("Opcoes")); }), 3078);
-    EXPECT_EQ(numeroDoErro([&] { bd->Fields(QStringLiteral("Opcoes")); }), 3078);
-    EXPECT_EQ(numeroDoErro([&] {
-                  bd->AppendField(QStringLiteral("Postos"),
-                                  recordstore::CreateField(QStringLiteral("anoinicial"), Tipo::Integer));
-              }),
-              0);
-    EXPECT_EQ(numeroDoErro([&] {
-                  bd->AppendField(QStringLiteral("Postos"),
-                                  recordstore::CreateField(QStringLiteral("AnoInicial"), Tipo::Integer));
-              }),
-              3191);
-    const recordstore::TableDef quebrada{QStringLiteral("Quebrada"),
-                                         {recordstore::CreateField(QStringLiteral("A"), Tipo::Long)},
-                                         {{QStringLiteral("B"), true, QStringLiteral("A;+B")}}};
-    EXPECT_EQ(numeroDoErro([&] { bd->Append(quebrada); }), 3265);
-    EXPECT_FALSE(bd->ExisteTabela(QStringLiteral("Quebrada")));
-    EXPECT_TRUE(bd->ExisteTabela(QStringLiteral("postos")));
-    EXPECT_EQ(numeroDoErro([&] { bd->Execute(QStringLiteral("DELETE FROM Postos; DELETE FROM Postos")); }),
-              3142);
+    const auto campo = [](const char* nome) { return CreateField(QString::fromLatin1(nome), Tipo::Integer); };
+    const recordstore::TableDef quebrada{
+        u"Quebrada"_s, {CreateField(u"A"_s, Tipo::Long)}, {{u"B"_s, true, u"A;+B"_s}}};
+    confere<int>({ERRO(Database::CreateDatabase(caminho()), 3204),
+                  ERRO(Database::CreateDatabase(caminho(u"nao/existe.mdb"_s)), 3044),
+                  ERRO(Database::OpenDatabase(caminho(u"outro.mdb"_s)), 3024), ERRO(criaPostos(), 3010),
+                  ERRO(bd->OpenRecordset(u"Opcoes"_s), 3078), ERRO(bd->Fields(u"Opcoes"_s), 3078),
+                  ERRO(bd->AppendField(u"Postos"_s, campo("anoinicial")), 0),
+                  ERRO(bd->AppendField(u"Postos"_s, campo("AnoInicial")), 3191),
+                  ERRO(bd->Append(quebrada), 3265),
+                  ERRO(bd->Execute(u"DELETE FROM Postos; DELETE FROM Postos"_s), 3142)});
+    EXPECT_FALSE(bd->ExisteTabela(u"Quebrada"_s));
+    EXPECT_TRUE(bd->ExisteTabela(u"postos"_s));
+
+    // A file that is not a database opens, and fails at the first table.
+    bd->Close();
+    QFile lixo(caminho(u"lixo.mdb"_s));
+    ASSERT_TRUE(lixo.open(QIODevice::WriteOnly));
+    lixo.write(QByteArray("isto não é um banco de dados, só texto solto. ").repeated(100));
+    lixo.close();
+    bd = Database::OpenDatabase(lixo.fileName());
+    EXPECT_EQ(numeroDoErro([&] { bd->OpenRecordset(u"CasoCORVALIN"_s); }), 3343);
 }
 
 TEST_F(Esquema, SchemaChangesKeepOpenHandlesWorking) {
     criaVazoes();
-    auto andando = bd->OpenRecordset(QStringLiteral("VazoesSemanais"));
-    auto parado = bd->OpenRecordset(QStringLiteral("VazoesSemanais"));
+    auto andando = bd->OpenRecordset(u"VazoesSemanais"_s);
+    auto parado = bd->OpenRecordset(u"VazoesSemanais"_s);
     for (int semana = 1; semana <= 5; ++semana) {
         adicionaVazao(*andando, 1, 2000, semana, semana);
     }
-    andando->setIndex(QStringLiteral("CodigoDoPostoAnoSemana"));
+    andando->setIndex(u"CodigoDoPostoAnoSemana"_s);
     andando->MoveNext();
     parado->MoveLast();
 
-    bd->Execute(QStringLiteral("alter table VazoesSemanais add column CasoUsa53Semanas byte;"));
+    bd->Execute(u"alter table VazoesSemanais add column CasoUsa53Semanas byte;"_s);
     EXPECT_EQ(andando->FieldCount(), 5);
-    EXPECT_EQ(bd->Fields(QStringLiteral("VazoesSemanais")).back().Type, Tipo::Byte);
+    EXPECT_EQ(bd->Fields(u"VazoesSemanais"_s).back().Type, Tipo::Byte);
     andando->MoveNext();
     EXPECT_EQ(inteiro(*andando, "Semana"), 3);
-    EXPECT_TRUE(andando->campo(QStringLiteral("CasoUsa53Semanas")).nulo());  // existing rows hold Null
+    EXPECT_TRUE(andando->campo(u"CasoUsa53Semanas"_s).nulo());  // existing rows hold Null
     EXPECT_EQ(inteiro(*parado, "Semana"), 5);
 
-    bd->AppendField(QStringLiteral("VazoesSemanais"),
-                    recordstore::CreateField(QStringLiteral("Obs"), Tipo::Texto, 10));
+    bd->AppendField(u"VazoesSemanais"_s, CreateField(u"Obs"_s, Tipo::Texto, 10));
     parado->Edit();
-    parado->setCampo(QStringLiteral("Obs"), QStringLiteral("cheia"));
+    parado->setCampo(u"Obs"_s, u"cheia"_s);
     parado->Update();
-    EXPECT_EQ(parado->campo(QStringLiteral("Obs")), Valor("cheia"));
-    EXPECT_TRUE(andando->campo(QStringLiteral("Obs")).nulo());
+    EXPECT_EQ(texto(*parado, "Obs"), u"cheia"_s);
+    EXPECT_TRUE(andando->campo(u"Obs"_s).nulo());
 
-    bd->Execute(QStringLiteral("DELETE FROM VazoesSemanais WHERE Semana >= 3"));
-    EXPECT_EQ(numeroDoErro([&] { andando->campo(QStringLiteral("Semana")); }), 3167);
+    bd->Execute(u"DELETE FROM VazoesSemanais WHERE Semana >= 3"_s);
+    EXPECT_EQ(numeroDoErro([&] { andando->campo(u"Semana"_s); }), 3167);
     andando->MovePrevious();
     EXPECT_EQ(inteiro(*andando, "Semana"), 2);
 }

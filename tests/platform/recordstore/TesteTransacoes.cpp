@@ -7,7 +7,6 @@
 #include <stdexcept>
 #include <thread>
 
-using recordstore::Database;
 using recordstore::Transacao;
 
 namespace {
@@ -17,107 +16,103 @@ protected:
     void SetUp() override {
         BaseDeTeste::SetUp();
         criaPostos();
-        postos = bd->OpenRecordset(QStringLiteral("Postos"));
-        postos->setIndex(QStringLiteral("CodigoDoPosto"));
+        abrePostos();
     }
 
-    std::vector<std::int64_t> codigos() {
-        std::vector<std::int64_t> lidos;
-        if (!(postos->Bof() && postos->Eof())) {
-            postos->MoveFirst();
-            lidos = ateOFim(*postos, "CodigoDoPosto");
+    void abrePostos() {
+        postos = bd->OpenRecordset(u"Postos"_s);
+        postos->setIndex(u"CodigoDoPosto"_s);
+    }
+
+    Inteiros codigos() {
+        if (postos->Bof() && postos->Eof()) {
+            return {};
         }
-        return lidos;
+        postos->MoveFirst();
+        return ateOFim(*postos, "CodigoDoPosto");
     }
 
-    std::unique_ptr<recordstore::Recordset> postos;
+    std::unique_ptr<Recordset> postos;
 };
-
-using Codigos = std::vector<std::int64_t>;
 
 }  // namespace
 
 TEST_F(Transacoes, NestedTransactionsCommitOnlyAtTheOutermost) {
-    EXPECT_EQ(numeroDoErro([&] { bd->CommitTrans(); }), 3034);
-    EXPECT_EQ(numeroDoErro([&] { bd->Rollback(); }), 3034);
+    confere<int>({ERRO(bd->CommitTrans(), 3034), ERRO(bd->Rollback(), 3034)});
     bd->BeginTrans();
-    adicionaPosto(*postos, 1, QStringLiteral("Um"));
+    adicionaPosto(*postos, 1, u"Um"_s);
     bd->BeginTrans();
-    adicionaPosto(*postos, 2, QStringLiteral("Dois"));
+    adicionaPosto(*postos, 2, u"Dois"_s);
     bd->BeginTrans();
-    adicionaPosto(*postos, 3, QStringLiteral("Três"));
+    adicionaPosto(*postos, 3, u"Três"_s);
     bd->CommitTrans();
     bd->Rollback();  // takes the inner, committed one along
-    EXPECT_EQ(codigos(), Codigos{1});
+    EXPECT_EQ(codigos(), Inteiros{1});
     bd->BeginTrans();
-    adicionaPosto(*postos, 4, QStringLiteral("Quatro"));
+    adicionaPosto(*postos, 4, u"Quatro"_s);
     bd->CommitTrans();
     bd->CommitTrans();
     postos.reset();
-    bd.reset();
     bd = Database::OpenDatabase(caminho());
-    postos = bd->OpenRecordset(QStringLiteral("Postos"));
-    postos->setIndex(QStringLiteral("CodigoDoPosto"));
-    EXPECT_EQ(codigos(), (Codigos{1, 4}));
+    abrePostos();
+    EXPECT_EQ(codigos(), (Inteiros{1, 4}));
 }
 
 TEST_F(Transacoes, RollbackRestoresRowsAndDropsPendingEdits) {
     for (const int codigo : {1, 2, 3}) {
-        adicionaPosto(*postos, codigo, QStringLiteral("P%1").arg(codigo));
+        adicionaPosto(*postos, codigo, u"P%1"_s.arg(codigo));
     }
-    auto outro = bd->OpenRecordset(QStringLiteral("Postos"));
+    auto outro = bd->OpenRecordset(u"Postos"_s);
     outro->MoveLast();
     bd->BeginTrans();
-    postos->Seek(QStringLiteral("="), {2});
+    postos->Seek(u"="_s, {2});
     postos->Delete();
     postos->MoveNext();
     postos->Edit();
-    postos->setCampo(QStringLiteral("NomeDoAproveitamento"), QStringLiteral("Mudou"));
+    postos->setCampo(u"NomeDoAproveitamento"_s, u"Mudou"_s);
     postos->Update();
     outro->Edit();
-    outro->setCampo(QStringLiteral("NomeDoAproveitamento"), QStringLiteral("Pendente"));
+    outro->setCampo(u"NomeDoAproveitamento"_s, u"Pendente"_s);
     bd->Rollback();
     EXPECT_EQ(numeroDoErro([&] { outro->Update(); }), 3020);
-    EXPECT_EQ(postos->campo(QStringLiteral("NomeDoAproveitamento")).paraTexto(), "P3");
-    EXPECT_EQ(codigos(), (Codigos{1, 2, 3}));
+    EXPECT_EQ(texto(*postos, "NomeDoAproveitamento"), "P3");
+    EXPECT_EQ(codigos(), (Inteiros{1, 2, 3}));
 }
 
 TEST_F(Transacoes, AScopeLeftByAnExceptionRollsBack) {
     EXPECT_THROW(
         {
             Transacao t(*bd);
-            adicionaPosto(*postos, 1, QStringLiteral("Um"));
-            adicionaPosto(*postos, 2, QStringLiteral("Dois"));
+            adicionaPosto(*postos, 1, u"Um"_s);
+            adicionaPosto(*postos, 2, u"Dois"_s);
             throw std::runtime_error("falhou no meio");
         },
         std::runtime_error);
-    EXPECT_EQ(codigos(), Codigos{});
+    EXPECT_EQ(codigos(), Inteiros{});
     {
         Transacao t(*bd);
-        adicionaPosto(*postos, 3, QStringLiteral("Três"));
+        adicionaPosto(*postos, 3, u"Três"_s);
         t.Commit();
     }
-    EXPECT_EQ(codigos(), Codigos{3});
+    EXPECT_EQ(codigos(), Inteiros{3});
     EXPECT_EQ(numeroDoErro([&] { bd->CommitTrans(); }), 3034);  // the scope left nothing open
 }
 
 TEST_F(Transacoes, ClosingTheDatabaseInvalidatesItsHandles) {
-    adicionaPosto(*postos, 1, QStringLiteral("Um"));
+    adicionaPosto(*postos, 1, u"Um"_s);
     bd->BeginTrans();
-    adicionaPosto(*postos, 2, QStringLiteral("Dois"));
+    adicionaPosto(*postos, 2, u"Dois"_s);
     postos->MoveFirst();
-    bd->Close();                                                      // rolls the open transaction back
-    EXPECT_FALSE(QFile::exists(caminho() + QStringLiteral("-wal")));  // a closed file can be copied alone
-    EXPECT_EQ(numeroDoErro([&] { postos->MoveNext(); }), 3420);
-    EXPECT_EQ(numeroDoErro([&] { postos->campo(QStringLiteral("CodigoDoPosto")); }), 3420);
-    EXPECT_EQ(numeroDoErro([&] { postos->Close(); }), 3420);
-    EXPECT_EQ(numeroDoErro([&] { bd->OpenRecordset(QStringLiteral("Postos")); }), 3420);
-    EXPECT_EQ(numeroDoErro([&] { bd->Close(); }), 3420);
+    bd->Close();                                         // rolls the open transaction back
+    EXPECT_FALSE(QFile::exists(caminho() + u"-wal"_s));  // a closed file can be copied alone
+    confere<int>({ERRO(postos->MoveNext(), 3420), ERRO(postos->campo(u"CodigoDoPosto"_s), 3420),
+                  ERRO(postos->Close(), 3420), ERRO(bd->OpenRecordset(u"Postos"_s), 3420),
+                  ERRO(bd->Close(), 3420)});
     bd.reset();
     postos.reset();  // outliving its database is harmless
 
     bd = Database::OpenDatabase(caminho());
-    postos = bd->OpenRecordset(QStringLiteral("Postos"));
+    abrePostos();
     EXPECT_EQ(contaLinhas(*postos), 1);
     postos->Close();
     EXPECT_EQ(numeroDoErro([&] { postos->MoveFirst(); }), 3420);
@@ -125,35 +120,35 @@ TEST_F(Transacoes, ClosingTheDatabaseInvalidatesItsHandles) {
 
 TEST_F(Transacoes, TwoHandlesOnOneTableSeeEachOthersWrites) {
     for (const int codigo : {10, 20, 30, 40}) {
-        adicionaPosto(*postos, codigo, QStringLiteral("P%1").arg(codigo));
+        adicionaPosto(*postos, codigo, u"P%1"_s.arg(codigo));
     }
-    auto outro = bd->OpenRecordset(QStringLiteral("Postos"));
+    auto outro = bd->OpenRecordset(u"Postos"_s);
     postos->MoveFirst();
     postos->MoveNext();  // stepping, on 20
-    adicionaPosto(*outro, 25, QStringLiteral("P25"));
+    adicionaPosto(*outro, 25, u"P25"_s);
     postos->MoveNext();
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 25);
 
-    outro->setIndex(QStringLiteral("CodigoDoPosto"));
-    outro->Seek(QStringLiteral("="), {25});
+    outro->setIndex(u"CodigoDoPosto"_s);
+    outro->Seek(u"="_s, {25});
     outro->Edit();
-    outro->setCampo(QStringLiteral("NomeDoAproveitamento"), QStringLiteral("Novo nome"));
+    outro->setCampo(u"NomeDoAproveitamento"_s, u"Novo nome"_s);
     outro->Update();
-    EXPECT_EQ(postos->campo(QStringLiteral("NomeDoAproveitamento")).paraTexto(), "Novo nome");
+    EXPECT_EQ(texto(*postos, "NomeDoAproveitamento"), "Novo nome");
 
     outro->Delete();
-    EXPECT_EQ(numeroDoErro([&] { postos->campo(QStringLiteral("CodigoDoPosto")); }), 3167);
+    EXPECT_EQ(numeroDoErro([&] { postos->campo(u"CodigoDoPosto"_s); }), 3167);
     postos->MoveNext();
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 30);
 
     // Another connection to the file: its reads may lag a commit by a moment, but a transaction
     // of its own always starts from the latest one.
     auto segundo = Database::OpenDatabase(caminho());
-    auto dele = segundo->OpenRecordset(QStringLiteral("Postos"));
+    auto dele = segundo->OpenRecordset(u"Postos"_s);
     EXPECT_EQ(contaLinhas(*dele), 4);
     {
         Transacao t(*bd);
-        adicionaPosto(*outro, 50, QStringLiteral("P50"));
+        adicionaPosto(*outro, 50, u"P50"_s);
         t.Commit();
     }
     Transacao t(*segundo);
@@ -169,16 +164,16 @@ TEST_F(Transacoes, ASecondWriterWaitsForTheFirstRatherThanFailing) {
         erro = numeroDoErro([&] {
             segundo->BeginTrans();
             entrou = true;
-            auto rs = segundo->OpenRecordset(QStringLiteral("Postos"));
-            adicionaPosto(*rs, 2, QStringLiteral("Dois"));
+            auto rs = segundo->OpenRecordset(u"Postos"_s);
+            adicionaPosto(*rs, 2, u"Dois"_s);
             segundo->CommitTrans();
         });
     });
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     EXPECT_FALSE(entrou);
-    adicionaPosto(*postos, 1, QStringLiteral("Um"));
+    adicionaPosto(*postos, 1, u"Um"_s);
     bd->CommitTrans();
     outro.join();
     EXPECT_EQ(erro, 0);
-    EXPECT_EQ(codigos(), (Codigos{1, 2}));
+    EXPECT_EQ(codigos(), (Inteiros{1, 2}));
 }

@@ -1,6 +1,6 @@
 #include "platform/runtime/Vetor.h"
 
-#include "tests/platform/runtime/NumeroDoErro.h"
+#include "tests/platform/runtime/Casos.h"
 
 #include <gtest/gtest.h>
 

@@ -14,7 +14,7 @@ protected:
     QString caminho(const QString& nome) const { return mPasta.filePath(nome); }
 
     QString grava(const QByteArray& bytes) const {
-        QFile arquivo(caminho(QStringLiteral("entrada.txt")));
+        QFile arquivo(caminho(u"entrada.txt"_s));
         EXPECT_TRUE(arquivo.open(QIODevice::WriteOnly) && arquivo.write(bytes) == bytes.size());
         return arquivo.fileName();
     }
@@ -41,7 +41,7 @@ private:
 
 }  // namespace
 
-TEST(Cp1252, EveryByteSurvivesARoundTrip) {
+TEST(Cp1252, EveryByteSurvivesARoundTripAndStrangersBecomeAQuestionMark) {
     QByteArray todos;
     for (int b = 0; b < 256; ++b) {
         todos += static_cast<char>(b);
@@ -49,19 +49,14 @@ TEST(Cp1252, EveryByteSurvivesARoundTrip) {
     const QString texto = DeCp1252(todos);
     ASSERT_EQ(texto.size(), 256);
     EXPECT_EQ(ParaCp1252(texto), todos);
-    EXPECT_EQ(texto.mid(0x80, 2) + texto.mid(0x9D, 3), QStringLiteral("€\u0081\u009DžŸ"));
-}
-
-TEST(Cp1252, AccentsAreOneByteAndStrangersAQuestionMark) {
-    EXPECT_EQ(ParaCp1252(QStringLiteral("São Simão")), QByteArray("S\xE3o Sim\xE3o"));
-    EXPECT_EQ(DeCp1252("Tr\xEAs Marias"), QStringLiteral("Três Marias"));
-    EXPECT_EQ(ParaCp1252(QStringLiteral("a€b中\u0085c😀d")), QByteArray("a\x80"
-                                                                       "b??c?d"));
+    EXPECT_EQ(texto.mid(0x80, 2) + texto.mid(0x9D, 3), u"€\u0081\u009DžŸ"_s);
+    EXPECT_EQ(DeCp1252("Tr\xEAs Marias"), u"Três Marias"_s);
+    EXPECT_EQ(ParaCp1252(u"São a€b中\u0085c😀d"_s), QByteArray("S\xE3o a\x80"
+                                                              "b??c?d"));
 }
 
 TEST_F(ArquivoTexto, LinesEndAtCrOrCrLfAndALoneLfIsText) {
-    EXPECT_EQ(linhas("a\r\nb\rc\nd\r\n\r\nS\xE3o"),
-              QStringList({"a", "b", "c\nd", "", QStringLiteral("São")}));
+    EXPECT_EQ(linhas("a\r\nb\rc\nd\r\n\r\nS\xE3o"), QStringList({"a", "b", "c\nd", "", u"São"_s}));
     EXPECT_EQ(linhas("a\r\n"), QStringList({"a"}));
     EXPECT_EQ(linhas("a\r\n\r\n"), QStringList({"a", ""}));
     EXPECT_EQ(linhas("\r\r\n\n"), QStringList({"", "", "\n"}));
@@ -73,22 +68,20 @@ TEST_F(ArquivoTexto, LinesEndAtCrOrCrLfAndALoneLfIsText) {
 }
 
 TEST_F(ArquivoTexto, OpeningFailuresCarryTheOldNumbers) {
-    EXPECT_EQ(numeroDoErro([this] { ArquivoEntrada e(caminho("falta.txt")); }), 53);
-    EXPECT_EQ(numeroDoErro([this] { ArquivoEntrada e(caminho("")); }), 75);
-    EXPECT_EQ(numeroDoErro([this] { ArquivoSaida s(caminho("falta/saida.txt")); }), 76);
-    EXPECT_EQ(numeroDoErro([this] { ArquivoSaida s(caminho("")); }), 75);
+    confere<int>({ERRO(ArquivoEntrada(caminho(u"falta.txt"_s)), 53), ERRO(ArquivoEntrada(caminho({})), 75),
+                  ERRO(ArquivoSaida(caminho(u"falta/saida.txt"_s)), 76),
+                  ERRO(ArquivoSaida(caminho({})), 75)});
 }
 
-TEST_F(ArquivoTexto, PrintWritesCp1252AndCrLfOverWhatWasThere) {
+TEST_F(ArquivoTexto, PrintWritesCp1252AndCrLfOverWhatWasThereAndReportsAFailedWrite) {
     const QString nome = grava(QByteArray(500, 'x'));
     ArquivoSaida saida(nome);
-    saida.Print(QStringLiteral("Três Marias"));
-    saida.Print("");
-    saida.Print(QStringLiteral("€ 中"));
+    for (const QString& linha : {u"Três Marias"_s, QString(), u"€ 中"_s}) {
+        saida.Print(linha);
+    }
     saida.Close();
     EXPECT_EQ(le(nome), QByteArray("Tr\xEAs Marias\r\n\r\n\x80 ?\r\n"));
-    EXPECT_EQ(numeroDoErro([&saida] { saida.Print("depois"); }), 75);
-
+    EXPECT_EQ(numeroDoErro([&saida] { saida.Print(u"depois"_s); }), 75);
     {
         ArquivoSaida semClose(nome);
         for (int i = 0; i < 1000; ++i) {
@@ -96,13 +89,10 @@ TEST_F(ArquivoTexto, PrintWritesCp1252AndCrLfOverWhatWasThere) {
         }
     }
     EXPECT_EQ(le(nome).size(), 1000 * 81);
-}
 
-TEST(ArquivoSaida, AWriteThatFailsIsReportedAtClose) {
-    if (!QFile::exists(QStringLiteral("/dev/full"))) {
-        GTEST_SKIP() << "no /dev/full here";
+    if (QFile::exists(u"/dev/full"_s)) {
+        ArquivoSaida cheio(u"/dev/full"_s);
+        cheio.Print(u"não cabe"_s);
+        EXPECT_EQ(numeroDoErro([&cheio] { cheio.Close(); }), 75);
     }
-    ArquivoSaida saida(QStringLiteral("/dev/full"));
-    saida.Print(QStringLiteral("não cabe"));
-    EXPECT_EQ(numeroDoErro([&saida] { saida.Close(); }), 75);
 }

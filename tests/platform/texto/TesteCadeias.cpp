@@ -4,53 +4,32 @@
 
 using namespace texto;
 
-TEST(Cadeias, ColumnsPastTheEndAreSimplyAbsent) {
-    const QString linha = QStringLiteral("  1234 São Simão");
-    EXPECT_EQ(Mid(linha, 3, 4), "1234");
-    EXPECT_EQ(Mid(linha, 8, 60), QStringLiteral("São Simão"));
-    EXPECT_EQ(Mid(linha, 8), QStringLiteral("São Simão"));
-    EXPECT_EQ(Mid(linha, 16, 5), QStringLiteral("o"));
-    EXPECT_EQ(Mid(linha, 17, 5), "");
-    EXPECT_EQ(Mid(linha, 77, 4), "");
-    EXPECT_EQ(Mid(linha, 3, 0), "");
-    EXPECT_EQ(Left(linha, 4), "  12");
-    EXPECT_EQ(Left(linha, 99), linha);
-    EXPECT_EQ(Right(linha, 5), QStringLiteral("Simão"));
-    EXPECT_EQ(Right(linha, 99), linha);
-    EXPECT_EQ(Space(3), "   ");
-    EXPECT_EQ(Space(0), "");
-}
-
-TEST(Cadeias, BadPositionsAndCountsRaiseError5) {
-    EXPECT_EQ(numeroDoErro([] { Mid("abc", 0, 1); }), 5);
-    EXPECT_EQ(numeroDoErro([] { Mid("abc", -1); }), 5);
-    EXPECT_EQ(numeroDoErro([] { Left("abc", -1); }), 5);
-    EXPECT_EQ(numeroDoErro([] { Right("abc", -1); }), 5);
-    EXPECT_EQ(numeroDoErro([] { Space(-2); }), 5);
-    EXPECT_EQ(numeroDoErro([] { InStr("abc", "a", false, 0); }), 5);
-}
-
-TEST(Cadeias, TrimRemovesOnlyTheBlank) {
-    EXPECT_EQ(Trim("  a  b  "), "a  b");
-    EXPECT_EQ(Trim("     "), "");
-    EXPECT_EQ(Trim(""), "");
-    EXPECT_EQ(Trim("\ta\r\n"), "\ta\r\n");
-    EXPECT_EQ(Trim(QStringLiteral("\u00A0x ")), QStringLiteral("\u00A0x"));
+TEST(Cadeias, ColumnsPastTheEndAreAbsentAndOnlyTheBlankIsTrimmed) {
+    const QString linha = u"  1234 São Simão"_s;
+    confere<QString>({CASO(Mid(linha, 3, 4), u"1234"_s), CASO(Mid(linha, 8, 60), u"São Simão"_s),
+                      CASO(Mid(linha, 8), u"São Simão"_s), CASO(Mid(linha, 16, 5), u"o"_s),
+                      CASO(Mid(linha, 17, 5), ""), CASO(Mid(linha, 77, 4), ""), CASO(Mid(linha, 3, 0), ""),
+                      CASO(Left(linha, 4), u"  12"_s), CASO(Left(linha, 99), linha),
+                      CASO(Right(linha, 5), u"Simão"_s), CASO(Right(linha, 99), linha),
+                      CASO(Space(3), u"   "_s), CASO(Space(0), ""), CASO(Trim(u"  a  b  "_s), u"a  b"_s),
+                      CASO(Trim(u"     "_s), ""), CASO(Trim(u"\ta\r\n"_s), u"\ta\r\n"_s),
+                      CASO(Trim(u"\u00A0x "_s), u"\u00A0x"_s),
+                      // Case changes keep every column: no "ß" becomes "SS".
+                      CASO(UCase(u"três marias ßÿ"_s), u"TRÊS MARIAS ßŸ"_s),
+                      CASO(LCase(u"SÃO SIMÃO Ç"_s), u"são simão ç"_s)});
 }
 
 TEST(Cadeias, InStrFindsFromAColumnWithOrWithoutCase) {
-    const QString caminho = QStringLiteral("/casos/VAZPAST.DAT/Vazpast.dat");
-    EXPECT_EQ(InStr(caminho, "Vazpast.dat"), 20);
-    EXPECT_EQ(InStr(caminho, "vazpast.dat", true), 8);
-    EXPECT_EQ(InStr(caminho, "vazpast.dat", true, 9), 20);
-    EXPECT_EQ(InStr(caminho, "vazpast.dat"), 0);
-    EXPECT_EQ(InStr(QStringLiteral("SÃO SIMÃO"), QStringLiteral("simão"), true), 5);
-    EXPECT_EQ(InStr("abc", "", false, 2), 2);
-    EXPECT_EQ(InStr("abc", "a", false, 9), 0);
+    const QString caminho = u"/casos/VAZPAST.DAT/Vazpast.dat"_s;
+    confere<qsizetype>(
+        {CASO(InStr(caminho, u"Vazpast.dat"_s), 20), CASO(InStr(caminho, u"vazpast.dat"_s, true), 8),
+         CASO(InStr(caminho, u"vazpast.dat"_s, true, 9), 20), CASO(InStr(caminho, u"vazpast.dat"_s), 0),
+         CASO(InStr(u"SÃO SIMÃO"_s, u"simão"_s, true), 5), CASO(InStr(u"abc"_s, {}, false, 2), 2),
+         CASO(InStr(u"abc"_s, u"a"_s, false, 9), 0)});
 }
 
-TEST(Cadeias, CaseChangesKeepEveryColumn) {
-    EXPECT_EQ(UCase(QStringLiteral("três marias")), QStringLiteral("TRÊS MARIAS"));
-    EXPECT_EQ(LCase(QStringLiteral("SÃO SIMÃO Ç")), QStringLiteral("são simão ç"));
-    EXPECT_EQ(UCase(QStringLiteral("ßÿ")), QStringLiteral("ßŸ"));
+TEST(Cadeias, BadPositionsAndCountsRaiseError5) {
+    const QString abc = u"abc"_s;
+    confere<int>({ERRO(Mid(abc, 0, 1), 5), ERRO(Mid(abc, -1), 5), ERRO(Left(abc, -1), 5),
+                  ERRO(Right(abc, -1), 5), ERRO(Space(-2), 5), ERRO(InStr(abc, u"a"_s, false, 0), 5)});
 }

@@ -3,6 +3,7 @@
 #include "Apoio.h"
 
 #include <limits>
+#include <string>
 #include <utility>
 
 using namespace texto;
@@ -12,18 +13,23 @@ namespace {
 constexpr int Single = 4;
 constexpr int Double = 5;
 
-struct Caso {
+struct Formato {
     double valor;
     const char* descritor;
     const char* campo;
+    int tipo = Single;
 };
 
 }  // namespace
 
-// Layouts as gfortran 12 writes them for a REAL*4.
-TEST(FormataCampo, LaysOutFieldsAsFortran) {
+// Layouts as gfortran 12 writes them for a REAL*4. Where gfortran rounds the binary value half to
+// even, the host's formatter rounds the printed digits half away from zero: a Single from its 7
+// digits, a Double from its 15 (the rows after the blank line).
+TEST(FormataCampo, LaysOutFieldsAsFortranRoundingThePrintedDigits) {
+    const double NaN = std::numeric_limits<double>::quiet_NaN();
+    const std::string grande = " 1" + std::string(39, '0') + ".0";
     // clang-format off
-    const Caso casos[] = {
+    const Formato casos[] = {
         {0.5, "F4.1", " 0.5"},       {0.5, "F3.1", "0.5"},    {0.5, "F2.1", ".5"},    {-0.5, "F4.1", "-0.5"},
         {-0.5, "F3.1", "-.5"},       {-0.5, "F2.1", "**"},    {100, "F4.1", "****"},  {-10, "F4.1", "****"},
         {99.96, "F4.1", "****"},     {99.94, "F4.1", "99.9"}, {-0.04, "F4.1", "-0.0"}, {-0.04, "F2.1", "**"},
@@ -31,28 +37,16 @@ TEST(FormataCampo, LaysOutFieldsAsFortran) {
         {0.4, "F5.0", "   0."},      {-0.4, "F5.0", "  -0."}, {0.4, "F1.0", "*"},     {3, "F2.0", "3."},
         {-12.345, "F6.2", "-12.35"}, {1234567, "F12.3", " 1234567.000"},              {1e30, "F8.1", "********"},
         {12.5, "f6.2", " 12.50"},    {123, "I4", " 123"},     {123, "I2", "**"},      {-5, "I2", "-5"},
-        {-10, "I2", "**"},           {0, "I1", "0"},          {-0.4, "I2", " 0"},     {7, "i3", "  7"}};
-    // clang-format on
-    for (const auto& [valor, descritor, campo] : casos) {
-        EXPECT_EQ(FormataCampo(valor, descritor, Single), campo) << valor << " " << descritor;
-    }
-}
+        {-10, "I2", "**"},           {0, "I1", "0"},          {-0.4, "I2", " 0"},     {7, "i3", "  7"},
 
-// Where gfortran rounds the binary value half to even, the host's formatter rounds the printed
-// digits half away from zero: a Single from its 7 digits, a Double from its 15.
-TEST(FormataCampo, RoundsThePrintedDigitsHalfAwayFromZero) {
-    EXPECT_EQ(FormataCampo(0.45f, "F4.1", Single), " 0.5");
-    EXPECT_EQ(FormataCampo(0.45f, "F4.1", Double), " 0.4");
-    EXPECT_EQ(FormataCampo(0.05f, "F4.1", Single), " 0.1");
-    EXPECT_EQ(FormataCampo(0.25, "F4.1", Double), " 0.3");
-    EXPECT_EQ(FormataCampo(-0.25, "F4.1", Double), "-0.3");
-    EXPECT_EQ(FormataCampo(0.125, "F5.2", Double), " 0.13");
-    EXPECT_EQ(FormataCampo(2.5, "I1", Double), "3");
-    EXPECT_EQ(FormataCampo(-2.5, "I2", Double), "-3");
-    EXPECT_EQ(FormataCampo(9.95f, "F3.1", Single), "***");
-    EXPECT_EQ(FormataCampo(1e39, "F6.1", Single), "******");
-    EXPECT_EQ(FormataCampo(std::numeric_limits<double>::quiet_NaN(), "F4.1", Double), "****");
-    EXPECT_EQ(FormataCampo(1e39, "F43.1", Double), " 1" + QString(39, u'0') + ".0");
+        {0.45f, "F4.1", " 0.5"},     {0.45f, "F4.1", " 0.4", Double},                 {0.05f, "F4.1", " 0.1"},
+        {0.25, "F4.1", " 0.3", Double},  {-0.25, "F4.1", "-0.3", Double},  {0.125, "F5.2", " 0.13", Double},
+        {2.5, "I1", "3", Double},    {-2.5, "I2", "-3", Double},  {9.95f, "F3.1", "***"},  {1e39, "F6.1", "******"},
+        {NaN, "F4.1", "****", Double},   {1e39, "F43.1", grande.c_str(), Double}};
+    // clang-format on
+    for (const auto& [valor, descritor, campo, tipo] : casos) {
+        EXPECT_EQ(FormataCampo(valor, descritor, tipo), campo) << valor << " " << descritor << " type " << tipo;
+    }
 }
 
 TEST(FormataCampo, UnknownDescriptorsRaiseError5) {
@@ -72,27 +66,19 @@ TEST(FormataCampo, LimitsSurviveWritingAndReading) {
     }
 }
 
-namespace {
-
 // Fields of the limits file read alike whatever the user's number format.
-void confereLeNumero() {
+TEST(LeNumero, TakesPointOrCommaAndNothingElseInAnyLocale) {
     const std::pair<const char*, double> casos[] = {{" 5.0", 5},    {"12,5", 12.5}, {"", 0},   {"    ", 0},
                                                     {"-.5", -0.5},  {"+3", 3},      {"5.", 5}, {"0.1", 0.1},
                                                     {"99.9", 99.9}, {" 1,5 ", 1.5}};
-    for (const auto& [campo, valor] : casos) {
-        EXPECT_EQ(LeNumero(campo), valor) << campo;
+    for (const QLocale& local : {QLocale::c(), Portugues}) {
+        const EmLocal em(local);
+        for (const auto& [campo, valor] : casos) {
+            EXPECT_EQ(LeNumero(campo), valor) << campo << " in " << local.name().toStdString();
+        }
+        for (const char* campo : {"1.2.3", "abc", "1 2", "1,2.3", "-", ".", "5-", "1e2", "--1", "1.234,5"}) {
+            EXPECT_EQ(numeroDoErro([campo] { LeNumero(campo); }), 13)
+                << campo << " in " << local.name().toStdString();
+        }
     }
-    for (const char* campo : {"1.2.3", "abc", "1 2", "1,2.3", "-", ".", "5-", "1e2", "--1", "1.234,5"}) {
-        EXPECT_EQ(numeroDoErro([campo] { LeNumero(campo); }), 13) << campo;
-    }
-}
-
-}  // namespace
-
-TEST_F(EmC, LeNumeroTakesPointOrCommaAndNothingElse) {
-    confereLeNumero();
-}
-
-TEST_F(EmPortugues, LeNumeroTakesPointOrCommaAndNothingElse) {
-    confereLeNumero();
 }

@@ -1,0 +1,95 @@
+#include "Apoio.h"
+
+#include <QProcess>
+#include <QStandardPaths>
+
+void adiciona(Recordset& rs, std::initializer_list<std::pair<const char*, Valor>> campos) {
+    rs.AddNew();
+    for (const auto& [nome, valor] : campos) {
+        rs.setCampo(QString::fromLatin1(nome), valor);
+    }
+    rs.Update();
+}
+
+std::int64_t inteiro(const Recordset& rs, const char* campo) {
+    return rs.campo(QString::fromLatin1(campo)).paraInteiro();
+}
+
+QString texto(const Recordset& rs, const char* campo) {
+    return rs.campo(QString::fromLatin1(campo)).paraTexto();
+}
+
+Inteiros ateOFim(Recordset& rs, const char* campo, bool avanca) {
+    Inteiros valores;
+    while (avanca ? !rs.Eof() : !rs.Bof()) {
+        valores.push_back(inteiro(rs, campo));
+        avanca ? rs.MoveNext() : rs.MovePrevious();
+    }
+    return valores;
+}
+
+int contaLinhas(Recordset& rs) {
+    int n = 0;
+    if (!(rs.Bof() && rs.Eof())) {
+        for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
+            ++n;
+        }
+    }
+    return n;
+}
+
+QString sqlite3(const QString& arquivo, const QString& comandos) {
+    const QString programa = QStandardPaths::findExecutable(u"sqlite3"_s);
+    if (programa.isEmpty()) {
+        return {};
+    }
+    QProcess p;
+    p.start(programa, {arquivo});
+    p.write(comandos.toUtf8());
+    p.closeWriteChannel();
+    p.waitForFinished();
+    return QString::fromUtf8(p.readAllStandardOutput() + p.readAllStandardError());
+}
+
+void BaseDeTeste::SetUp() {
+    ASSERT_TRUE(mPasta.isValid());
+    bd = Database::CreateDatabase(caminho());
+}
+
+void BaseDeTeste::criaPostos() {
+    recordstore::TableDef t{
+        u"Postos"_s,
+        {CreateField(u"CodigoDoPosto"_s, Tipo::Long), CreateField(u"NomeDoAproveitamento"_s, Tipo::Texto, 60),
+         CreateField(u"AreaDeDrenagem"_s, Tipo::Single)},
+        {{u"CodigoDoPosto"_s, true, u"CodigoDoPosto"_s},
+         {u"NomeDoAproveitamento"_s, false, u"NomeDoAproveitamento"_s}}};
+    t.Fields[2].DefaultValue = 0;
+    bd->Append(t);
+}
+
+void BaseDeTeste::criaVazoes() {
+    bd->Append({u"VazoesSemanais"_s,
+                {CreateField(u"CodigoDoPosto"_s, Tipo::Long), CreateField(u"Ano"_s, Tipo::Integer),
+                 CreateField(u"Semana"_s, Tipo::Byte), CreateField(u"Vazao"_s, Tipo::Single)},
+                {{u"CodigoDoPostoAnoSemana"_s, true, u"CodigoDoPosto;+Ano;+Semana"_s},
+                 {u"CodigoDoPosto"_s, false, u"CodigoDoPosto"_s}}});
+}
+
+recordstore::TableDef BaseDeTeste::defTipos() {
+    recordstore::TableDef t{u"Tipos"_s,
+                            {CreateField(u"Chave"_s, Tipo::Long), CreateField(u"Sim"_s, Tipo::Boolean),
+                             CreateField(u"Octeto"_s, Tipo::Byte), CreateField(u"Curto"_s, Tipo::Integer),
+                             CreateField(u"Simples"_s, Tipo::Single), CreateField(u"Duplo"_s, Tipo::Double),
+                             CreateField(u"Quando"_s, Tipo::DataHora), CreateField(u"Nome"_s, Tipo::Texto, 6),
+                             CreateField(u"Livre"_s, Tipo::Texto, 6)},
+                            {{u"Chave"_s, true, u"Chave"_s},
+                             {u"OctetoCurto"_s, false, u"Octeto;-Curto"_s},
+                             {u"Nome"_s, false, u"Nome"_s}}};
+    t.Fields[1].DefaultValue = true;
+    t.Fields[3].DefaultValue = -1;
+    t.Fields[4].DefaultValue = 0.1f;
+    t.Fields[6].DefaultValue = "2000-01-01 00:00:00";
+    t.Fields[7].DefaultValue = "O'Neil";  // quoted in the schema's SQL
+    t.Fields[8].AllowZeroLength = true;
+    return t;
+}
