@@ -1,26 +1,26 @@
 #include "tests/corvalin/modelfiles/CasoModelo.h"
 
-#include "platform/recordstore/Recordstore.h"
 #include "platform/texto/ArquivoTexto.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include <map>
 #include <stdexcept>
 
 namespace teste {
 
+using namespace Qt::StringLiterals;
 using corvalin::Historico;
 using corvalin::Posto;
 
 namespace {
 
 Historico pHistorico(const Posto& posto, float (*valor)(int ano, int semana)) {
-    const int semanas = posto.getNumSemanas();
-    Historico vazoes(posto.AnoFinal - posto.AnoInicial + 1, semanas);
+    Historico vazoes(posto.AnoFinal - posto.AnoInicial + 1, posto.getNumSemanas());
     for (int ano = posto.AnoInicial; ano <= posto.AnoFinal; ++ano) {
-        for (int semana = 1; semana <= semanas; ++semana) {
+        for (int semana = 1; semana <= posto.getNumSemanas(); ++semana) {
             vazoes(ano - posto.AnoInicial + 1, semana) = valor(ano, semana);
         }
     }
@@ -28,67 +28,55 @@ Historico pHistorico(const Posto& posto, float (*valor)(int ano, int semana)) {
 }
 
 float pValorSaoSimao(int ano, int semana) {
+    // Texts of every width the value field takes, and a value below 1.
+    static const std::map<std::pair<int, int>, float> especiais = {{{1995, 1}, 100000},
+                                                                   {{1995, 5}, 0.75f},
+                                                                   {{1995, 52}, 9876.5f},
+                                                                   {{1996, 10}, 12},
+                                                                   {{1996, 52}, 123456}};
     if (ano == 1997 && semana > 30) {
         return 0;
     }
-    // Texts of every width the value field takes, and a value below 1.
-    if (ano == 1995 && semana == 1) {
-        return 100000;
-    }
-    if (ano == 1995 && semana == 5) {
-        return 0.75f;
-    }
-    if (ano == 1995 && semana == 52) {
-        return 9876.5f;
-    }
-    if (ano == 1996 && semana == 10) {
-        return 12;
-    }
-    if (ano == 1996 && semana == 52) {
-        return 123456;
-    }
-    return static_cast<float>(1000 + 37 * semana + 11 * (ano - 1995) + 0.5 * (semana % 2));
+    const auto especial = especiais.find({ano, semana});
+    return especial != especiais.end()
+               ? especial->second
+               : static_cast<float>(1000 + 37 * semana + 11 * (ano - 1995) + 0.5 * (semana % 2));
 }
 
 float pValorTresMarias(int ano, int semana) {
-    if (ano == 2003 && semana > 20) {
-        return 0;
-    }
-    return static_cast<float>(500 + 3.5 * semana + (ano - 2001) * 100);
+    return ano == 2003 && semana > 20 ? 0 : static_cast<float>(500 + 3.5 * semana + (ano - 2001) * 100);
 }
 
 }  // namespace
 
 Posto SaoSimao() {
-    Posto p;
-    p.Codigo = 33;
-    p.Nome = QStringLiteral("São Simão");
-    p.Area = 171000.5f;
-    p.AnoInicial = 1995;
-    p.AnoFinal = 1997;
-    p.Arquivos.ArquivoRelatorio = QStringLiteral("SSIMAO.rel");
-    p.Arquivos.ArquivoVazoesSemanais = QStringLiteral("SSIMAO.dat");
-    p.Arquivos.ArquivoPrevisoes = QStringLiteral("SSIMAO.prv");
-    p.Arquivos.ArquivoExcel = QStringLiteral("SSIMAO.exc");
-    p.Arquivos.ArquivoDadosGerais = QStringLiteral("SSIMAO.arq");
-    p.ImpressaoParametros = true;
-    p.Transformacao = 5;
-    p.MesInicial = 1;
-    p.IntervaloConfianca = 95;
-    p.SemanaInicialPrev = 31;
-    p.AnoInicialPrev = 1997;
-    p.FlafVazpast = true;
-    p.NomeArqVazpast = QStringLiteral("Vazpast.dat");
-    p.VazpastSemana_1 = 1523.4;
-    p.VazpastSemana_2 = 1498.25;
-    p.VazpastSemana_3 = 1400;
-    p.VazpastSemana_4 = 0.5;
-    p.AnoFinalHistorico = 1997;
-    p.FlagLimite = 1;
-    p.NomeArqLimite = QStringLiteral("SSIMAO.lim");
-    p.discretizacao = 2;
-    p.Magnitude = 3;
-    return p;
+    return {.Arquivos = {.ArquivoRelatorio = u"SSIMAO.rel"_s,
+                         .ArquivoVazoesSemanais = u"SSIMAO.dat"_s,
+                         .ArquivoPrevisoes = u"SSIMAO.prv"_s,
+                         .ArquivoExcel = u"SSIMAO.exc"_s,
+                         .ArquivoDadosGerais = u"SSIMAO.arq"_s},
+            .Codigo = 33,
+            .Nome = u"São Simão"_s,
+            .Area = 171000.5f,
+            .AnoInicial = 1995,
+            .AnoFinal = 1997,
+            .ImpressaoParametros = true,
+            .Transformacao = 5,
+            .MesInicial = 1,
+            .IntervaloConfianca = 95,
+            .SemanaInicialPrev = 31,
+            .AnoInicialPrev = 1997,
+            .FlafVazpast = true,
+            .NomeArqVazpast = u"Vazpast.dat"_s,
+            .FlagLimite = 1,
+            .NomeArqLimite = u"SSIMAO.lim"_s,
+            .AnoFinalHistorico = 1997,
+            .VazpastSemana_1 = 1523.4,
+            .VazpastSemana_2 = 1498.25,
+            .VazpastSemana_3 = 1400,
+            .VazpastSemana_4 = 0.5,
+            .discretizacao = 2,
+            .Magnitude = 3};
 }
 
 Historico HistoricoSaoSimao() {
@@ -98,11 +86,11 @@ Historico HistoricoSaoSimao() {
 Posto TresMarias() {
     Posto p;
     p.Codigo = 156;
-    p.Nome = QStringLiteral("Três Marias");
+    p.Nome = u"Três Marias"_s;
     p.Area = 50600;
     p.AnoInicial = 2001;
     p.AnoFinal = 2003;
-    p.Arquivos.ArquivoVazoesSemanais = QStringLiteral("TMARIAS.dat");
+    p.Arquivos.ArquivoVazoesSemanais = u"TMARIAS.dat"_s;
     p.Arquivos.CasoUsa53Semanas = 1;
     return p;
 }
@@ -111,13 +99,24 @@ Historico HistoricoTresMarias() {
     return pHistorico(TresMarias(), pValorTresMarias);
 }
 
-void CasoModelo::SetUp() {
-    const QString pasta = host.caminho(QStringLiteral("caso"));
-    ASSERT_TRUE(bd->Criar(pasta));
-    bd->Fechar();
-    ASSERT_TRUE(bd->Abrir(CasoTeste(pasta), false, true));
-    postoBD.setCasoBD(bd);
-    opcoesBD.setCasoBD(bd);
+::testing::AssertionResult MesmoHistorico(const Historico& esperado, const Historico& lido) {
+    if (esperado.UBound1() != lido.UBound1() || esperado.UBound2() != lido.UBound2()) {
+        return ::testing::AssertionFailure() << "shape " << lido.UBound1() << "x" << lido.UBound2();
+    }
+    for (int i = 0; i <= esperado.UBound1(); ++i) {
+        for (int j = 0; j <= esperado.UBound2(); ++j) {
+            if (esperado(i, j) != lido(i, j)) {
+                return ::testing::AssertionFailure()
+                       << "(" << i << ", " << j << "): " << lido(i, j) << " instead of " << esperado(i, j);
+            }
+        }
+    }
+    return ::testing::AssertionSuccess();
+}
+
+CasoModelo::CasoModelo() {
+    postoBD.setCasoBD(caso.bd);
+    opcoesBD.setCasoBD(caso.bd);
 }
 
 QByteArray CasoModelo::linhas(const QStringList& texto) {
@@ -128,12 +127,8 @@ QByteArray CasoModelo::linhas(const QStringList& texto) {
     return bytes;
 }
 
-QString CasoModelo::caminhoDourado(const QString& relativo) {
+QString CasoModelo::dourado(const QString& relativo) {
     return QStringLiteral(CORVALIN_DADOS_TESTE "/modelfiles/") + relativo;
-}
-
-QByteArray CasoModelo::dourado(const QString& relativo) {
-    return conteudo(caminhoDourado(relativo));
 }
 
 QByteArray CasoModelo::conteudo(const QString& caminho) {
@@ -142,7 +137,7 @@ QByteArray CasoModelo::conteudo(const QString& caminho) {
 }
 
 QString CasoModelo::arquivo(const QString& nome, const QByteArray& bytes) const {
-    const QString caminho = host.caminho(QStringLiteral("entrada/") + nome);
+    const QString caminho = host.caminho(u"entrada/"_s + nome);
     QDir().mkpath(QFileInfo(caminho).absolutePath());
     QFile f(caminho);
     if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size()) {
@@ -152,7 +147,7 @@ QString CasoModelo::arquivo(const QString& nome, const QByteArray& bytes) const 
 }
 
 QString CasoModelo::pastaExecucao() const {
-    return QDir::toNativeSeparators(host.caminho(QStringLiteral("execucao"))) + QDir::separator();
+    return QDir::toNativeSeparators(host.caminho(u"execucao"_s)) + QDir::separator();
 }
 
 QString CasoModelo::gerado(std::int32_t codigo, const QString& nome) const {
@@ -172,32 +167,6 @@ Historico CasoModelo::historico(const Posto& posto) const {
     Historico vazoes;
     postoBD.getHistorico(posto, vazoes);
     return vazoes;
-}
-
-int CasoModelo::contaLinhas(const QString& tabela) const {
-    const auto rs = bd->BancoDeDados().OpenRecordset(tabela);
-    int n = 0;
-    for (; !rs->Eof(); rs->MoveNext()) {
-        ++n;
-    }
-    return n;
-}
-
-::testing::AssertionResult MesmoHistorico(const Historico& esperado, const Historico& lido) {
-    if (esperado.UBound1() != lido.UBound1() || esperado.UBound2() != lido.UBound2()) {
-        return ::testing::AssertionFailure()
-               << "shape " << lido.UBound1() << "x" << lido.UBound2() << " instead of " << esperado.UBound1()
-               << "x" << esperado.UBound2();
-    }
-    for (int i = 0; i <= esperado.UBound1(); ++i) {
-        for (int j = 0; j <= esperado.UBound2(); ++j) {
-            if (esperado(i, j) != lido(i, j)) {
-                return ::testing::AssertionFailure()
-                       << "(" << i << ", " << j << "): " << lido(i, j) << " instead of " << esperado(i, j);
-            }
-        }
-    }
-    return ::testing::AssertionSuccess();
 }
 
 }  // namespace teste

@@ -1,20 +1,16 @@
 #pragma once
 
-#include "corvalin/casedb/casoBD.h"
 #include "corvalin/frame/Progresso.h"
 #include "corvalin/modelfiles/PostoARQ.h"
 #include "corvalin/options/OpcoesBD.h"
 #include "corvalin/stations/Historico.h"
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
-#include "tests/doubles/HostTeste.h"
+#include "tests/corvalin/options/CasoAberto.h"
 
 #include <QByteArray>
 #include <QStringList>
 
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <vector>
 
 namespace teste {
@@ -36,21 +32,24 @@ corvalin::Historico HistoricoSaoSimao();
 corvalin::Posto TresMarias();
 corvalin::Historico HistoricoTresMarias();
 
-// A new case with its stores and the host's doubles, in a folder of its own.
+// Same shape and the same values in every position.
+::testing::AssertionResult MesmoHistorico(const corvalin::Historico& esperado,
+                                          const corvalin::Historico& lido);
+
+// A new case with its stores, and a folder for the files of the test.
 class CasoModelo : public ::testing::Test {
 public:
     // Lines as a model file holds them: Windows-1252, each ended by CR LF.
     static QByteArray linhas(const QStringList& texto);
 
 protected:
-    void SetUp() override;
-    // A golden file under tests/data/modelfiles: its path, its bytes.
-    static QString caminhoDourado(const QString& relativo);
-    static QByteArray dourado(const QString& relativo);
+    CasoModelo();
+    // The path of a golden file under tests/data/modelfiles, and the bytes of any file.
+    static QString dourado(const QString& relativo);
     static QByteArray conteudo(const QString& caminho);
     // Writes a file in the test's folder and answers its path.
     QString arquivo(const QString& nome, const QByteArray& bytes) const;
-    // The run folder of the writers, ending in the separator, and a station's file in it.
+    // The writers' run folder, ending in the separator, and a station's file in it.
     QString pastaExecucao() const;
     QString gerado(std::int32_t codigo, const QString& nome) const;
 
@@ -59,19 +58,14 @@ protected:
     // The station of that code as the stores read it; false when there is none.
     bool le(std::int32_t codigo, corvalin::Posto& posto) const;
     corvalin::Historico historico(const corvalin::Posto& posto) const;
-    int contaLinhas(const QString& tabela) const;
 
-    HostTeste host;
-    std::shared_ptr<corvalin::casoBD> bd = std::make_shared<corvalin::casoBD>();
+    CasoAberto caso;
+    HostTeste& host = caso.host;
     corvalin::PostoBD postoBD;
     corvalin::OpcoesBD opcoesBD;
     const corvalin::PostoARQ arq{};
     ProgressoGravador progresso;
     QString erros;
 };
-
-// Same shape and the same values in every position.
-::testing::AssertionResult MesmoHistorico(const corvalin::Historico& esperado,
-                                          const corvalin::Historico& lido);
 
 }  // namespace teste

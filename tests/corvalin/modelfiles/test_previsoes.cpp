@@ -3,9 +3,10 @@
 
 namespace {
 
+using namespace Qt::StringLiterals;
 using plataforma::Vetor;
 
-// A forecast line: a 24-column label and six 9-column fields.
+// A forecast line: a 24-column label and 9-column fields.
 QString linhaPrevista(const QString& rotulo, const QStringList& campos) {
     QString linha = rotulo.leftJustified(24);
     for (const QString& campo : campos) {
@@ -14,24 +15,25 @@ QString linhaPrevista(const QString& rotulo, const QStringList& campos) {
     return linha;
 }
 
-QStringList seis(double base) {
+// Six weeks, base plus the week's number.
+std::vector<float> seis(float base) {
+    return {base + 1, base + 2, base + 3, base + 4, base + 5, base + 6};
+}
+
+QString linhaPrevista(const QString& rotulo, float base) {
     QStringList campos;
-    for (int semana = 1; semana <= 6; ++semana) {
-        campos << QString::number(base + semana, 'f', 2);
+    for (const float valor : seis(base)) {
+        campos << QString::number(valor, 'f', 2);
     }
-    return campos;
+    return linhaPrevista(rotulo, campos);
 }
 
 class PrevisoesTeste : public teste::CasoModelo {
 protected:
-    struct Previstas {
-        std::vector<float> previsao, inferior, superior;
-        friend bool operator==(const Previstas&, const Previstas&) = default;
-    };
+    using Previstas = std::array<std::vector<float>, 3>;  // forecast, lower and upper limits
 
     bool importa(const QStringList& texto) {
-        return arq.importaPRV(arquivo(QStringLiteral("SSIMAO.prv"), linhas(texto)), teste::SaoSimao(),
-                              postoBD);
+        return arq.importaPRV(arquivo(u"SSIMAO.prv"_s, linhas(texto)), teste::SaoSimao(), postoBD);
     }
     Previstas guardadas() const {
         Vetor<float> p, i, s;
@@ -41,51 +43,39 @@ protected:
         };
         return {semZero(p), semZero(i), semZero(s)};
     }
-    static std::vector<float> valores(double base) {
-        std::vector<float> v;
-        for (int semana = 1; semana <= 6; ++semana) {
-            v.push_back(static_cast<float>(base + semana));
-        }
-        return v;
-    }
-    static const inline std::vector<float> zeros = std::vector<float>(6, 0.f);
+    const std::vector<float> zeros = std::vector<float>(6, 0.f);
 };
 
 TEST_F(PrevisoesTeste, SoAsTresUltimasLinhasContam) {
-    const QStringList texto = {QStringLiteral("Relatorio de previsao"),
-                               linhaPrevista(QStringLiteral("antiga"), seis(9000)),
-                               linhaPrevista(QStringLiteral("Previsao (m3/s)"), seis(1000)),
-                               linhaPrevista(QStringLiteral("Limite inferior"), seis(500)),
-                               linhaPrevista(QStringLiteral("Limite superior"), seis(2000))};
+    const QStringList texto = {u"Relatorio de previsao"_s, linhaPrevista(u"antiga"_s, 9000),
+                               linhaPrevista(u"Previsao (m3/s)"_s, 1000),
+                               linhaPrevista(u"Limite inferior"_s, 500),
+                               linhaPrevista(u"Limite superior"_s, 2000)};
     ASSERT_TRUE(importa(texto));
-    EXPECT_EQ(guardadas(), (Previstas{valores(1000), valores(500), valores(2000)}));
+    EXPECT_EQ(guardadas(), (Previstas{seis(1000), seis(500), seis(2000)}));
 
     // A trailing empty line is one of the three: everything moves up one array.
     ASSERT_TRUE(importa(texto + QStringList{QString()}));
-    EXPECT_EQ(guardadas(), (Previstas{valores(500), valores(2000), zeros}));
+    EXPECT_EQ(guardadas(), (Previstas{seis(500), seis(2000), zeros}));
 
     // Two lines fill the bounds; an empty file stores zeros.
     ASSERT_TRUE(importa(texto.mid(3)));
-    EXPECT_EQ(guardadas(), (Previstas{zeros, valores(500), valores(2000)}));
+    EXPECT_EQ(guardadas(), (Previstas{zeros, seis(500), seis(2000)}));
     ASSERT_TRUE(importa({}));
     EXPECT_EQ(guardadas(), (Previstas{zeros, zeros, zeros}));
 }
 
 TEST_F(PrevisoesTeste, CamposCurtosOuComTextoLemOQueTem) {
-    ASSERT_TRUE(
-        importa({linhaPrevista(QStringLiteral("P"), {"12.5m3", "-3", "1 5", "x7"}), QStringLiteral("curta"),
-                 linhaPrevista(QStringLiteral("S"), {"1", "2"}).left(24 + 9 + 5)}));
-    const Previstas lidas = guardadas();
-    EXPECT_EQ(lidas.previsao, (std::vector<float>{12.5f, -3, 15, 0, 0, 0}));
-    EXPECT_EQ(lidas.inferior, zeros);
-    EXPECT_EQ(lidas.superior, (std::vector<float>{1, 0, 0, 0, 0, 0}))
-        << "the second field is cut to its blanks";
+    ASSERT_TRUE(importa({linhaPrevista(u"P"_s, {u"12.5m3"_s, u"-3"_s, u"1 5"_s, u"x7"_s}), u"curta"_s,
+                         linhaPrevista(u"S"_s, {u"1"_s, u"2"_s}).left(24 + 9 + 5)}));
+    EXPECT_EQ(guardadas(), (Previstas{{{12.5f, -3, 15, 0, 0, 0}, zeros, {1, 0, 0, 0, 0, 0}}}))
+        << "the second upper field is cut to its blanks";
 }
 
 TEST_F(PrevisoesTeste, FalhasNaoGuardamNada) {
-    EXPECT_FALSE(arq.importaPRV(host.caminho(QStringLiteral("nada.prv")), teste::SaoSimao(), postoBD));
-    EXPECT_FALSE(importa({linhaPrevista(QStringLiteral("P"), {"1", "9E+99"}), QString(), QString()}));
-    EXPECT_EQ(contaLinhas(QStringLiteral("VazoesPrevistas")), 0);
+    EXPECT_FALSE(arq.importaPRV(host.caminho(u"nada.prv"_s), teste::SaoSimao(), postoBD));
+    EXPECT_FALSE(importa({linhaPrevista(u"P"_s, {u"1"_s, u"9E+99"_s}), QString(), QString()}));
+    EXPECT_EQ(caso.linhas(u"VazoesPrevistas"_s), 0);
     EXPECT_TRUE(host.dialogo.Mensagens().empty());
 }
 

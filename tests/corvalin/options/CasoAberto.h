@@ -6,6 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
+#include <ostream>
+
+// Failures show the text itself rather than its UTF-16 units.
+inline void PrintTo(const QString& s, std::ostream* os) {
+    *os << '"' << s.toStdString() << '"';
+}
 
 namespace teste {
 
@@ -22,6 +29,18 @@ public:
     ~CasoAberto() { bd->Fechar(); }
     CasoAberto(const CasoAberto&) = delete;
     CasoAberto& operator=(const CasoAberto&) = delete;
+
+    // Rows of a table, or of one station in it, counted on a handle of their own so that the
+    // shared ones stay where they stand.
+    int linhas(const QString& tabela, std::optional<int> codigo = {},
+               const QString& campo = QStringLiteral("CodigoDoPosto")) const {
+        const auto rs = bd->BancoDeDados().OpenRecordset(tabela);
+        int n = 0;
+        for (; !rs->Eof(); rs->MoveNext()) {
+            n += !codigo || rs->campo(campo).paraInteiro() == *codigo ? 1 : 0;
+        }
+        return n;
+    }
 
     HostTeste host;
     std::shared_ptr<corvalin::casoBD> bd;
