@@ -1,7 +1,7 @@
 #pragma once
 
 // What the user does on a screen and what he sees, by the controls' names, for the tests of the
-// editing screens.
+// screens.
 
 #include "halvo/controles/Spin.h"
 #include "tests/corvalin/frame/CasoDeTelas.h"
@@ -34,9 +34,12 @@ inline void escolhe(const QWidget& tela, const QString& nome, int linha) {
     }
 }
 
-// What a control shows: its text, its caption, or "x" for a ticked box.
+// What a control shows: its text, its caption, the line chosen in a list, or "x" for a ticked box.
 inline QString valor(const QWidget& tela, const QString& nome) {
     const auto& alvo = controle<QWidget>(tela, nome);
+    if (const auto* lista = qobject_cast<const QComboBox*>(&alvo)) {
+        return lista->currentText();
+    }
     if (const auto* caixa = qobject_cast<const QLineEdit*>(&alvo)) {
         return caixa->text();
     }
@@ -67,6 +70,17 @@ inline QStringList habilitados(const QWidget& tela, std::initializer_list<const 
         }
     }
     return abertos;
+}
+
+// The names among nomes whose controls the screen shows.
+inline QStringList visiveis(const QWidget& tela, std::initializer_list<const char*> nomes) {
+    QStringList vistos;
+    for (const char* nome : nomes) {
+        if (controle<QWidget>(tela, QString::fromLatin1(nome)).isVisibleTo(&tela)) {
+            vistos << QString::fromLatin1(nome);
+        }
+    }
+    return vistos;
 }
 
 // The messages shown, as "title|text", and forgets them.

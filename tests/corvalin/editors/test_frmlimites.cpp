@@ -95,12 +95,9 @@ private slots:
         caso.grava(beta);
 
         auto tela = teste::carrega<corvalin::FrmLimites>(caso);
-        const auto& magnitude = teste::controle<QComboBox>(*tela, QStringLiteral("cmbMagnitude"));
-        QCOMPARE(magnitude.itemText(3), QStringLiteral("4 Faixas"));
-        QCOMPARE(magnitude.currentIndex(), 2);
-        QCOMPARE(teste::controle<QComboBox>(*tela, QStringLiteral("cmbLimite")).itemText(1),
-                 QStringLiteral("Modelo e Previsão"));
-        QCOMPARE(teste::valores(*tela, {"txtArqLimite", "ChkUsaLimite"}), (QStringList{"ALFA.LIM", "x"}));
+        QCOMPARE(teste::valores(*tela, {"cmbLimite", "cmbDiscretizacao", "cmbMagnitude", "txtArqLimite",
+                                        "ChkUsaLimite"}),
+                 (QStringList{"Modelo e Previsão", "Mensal", "3 Faixas", "ALFA.LIM", "x"}));
         QCOMPARE(coluna(*tela, 0).mid(0, 3), (QStringList{"Mes", "1", "2"}));
         QCOMPARE(coluna(*tela, 1).size(), 13);
         QCOMPARE(coluna(*tela, 1).at(12), QStringLiteral("24"));
@@ -168,6 +165,18 @@ private slots:
         QCOMPARE(gravado.discretizacao, 2);
         QCOMPARE(gravado.Magnitude, 3);
         QCOMPARE(gravado.NomeArqLimite, QStringLiteral("A.LIM"));
+
+        // "Não Usar" shuts the grouping, the division, the grid and the name, which are then not
+        // checked; the arrays of the grouping are stored all the same, emptied.
+        teste::digita(*tela, QStringLiteral("txtArqLimite"), QStringLiteral("X"));
+        escolhe(*tela, QStringLiteral("cmbLimite"), 0);
+        QCOMPARE(teste::habilitados(
+                     *tela, {"cmbLimite", "cmbDiscretizacao", "cmbMagnitude", "GrdLimites", "txtArqLimite"}),
+                 QStringList{QStringLiteral("cmbLimite")});
+        clica(*tela, Gravar);
+        QVERIFY(caso.host.dialogo.Mensagens().empty());
+        QCOMPARE(teste::lePosto(caso, 101).FlagLimite, 0);
+        QCOMPARE(limite(caso, 101, 2, 1), std::pair(-1.0F, -1.0F));
     }
 
     // Only the prompt asks for the .LIM extension: a wrong one or none keeps the user on the
@@ -204,23 +213,6 @@ private slots:
         caso.host.dialogo.responde(Resposta::Nao);
         QVERIFY(tela->close());
         QCOMPARE(teste::lePosto(caso, 101).NomeArqLimite, QStringLiteral("A.TX"));
-    }
-
-    // "Não Usar" shuts the grouping, the division, the grid and the name, which are then not
-    // checked; the arrays of the grouping are stored all the same.
-    void semLimitesNadaSeConfere() {
-        teste::CasoDeTelas caso;
-        adiciona(caso, 101, QStringLiteral("Alfa"));
-        auto tela = teste::carrega<corvalin::FrmLimites>(caso);
-        teste::digita(*tela, QStringLiteral("txtArqLimite"), QStringLiteral("X"));
-        escolhe(*tela, QStringLiteral("cmbLimite"), 0);
-        QCOMPARE(teste::habilitados(
-                     *tela, {"cmbLimite", "cmbDiscretizacao", "cmbMagnitude", "GrdLimites", "txtArqLimite"}),
-                 QStringList{QStringLiteral("cmbLimite")});
-        clica(*tela, Gravar);
-        QVERIFY(caso.host.dialogo.Mensagens().empty());
-        QCOMPARE(teste::lePosto(caso, 101).FlagLimite, 0);
-        QCOMPARE(limite(caso, 101, 2, 1), std::pair(-1.0F, -1.0F));
     }
 
     // The case's switch closes the way to other stations and all but itself and the write

@@ -1,10 +1,10 @@
 #include "tests/corvalin/execution/CasoExecucao.h"
 
+#include "corvalin/options/Opcoes.h"
 #include "corvalin/stations/Historico.h"
 #include "halvo/sdk/CamadaAcesso.h"
 
 #include <QDir>
-#include <QFile>
 
 namespace teste {
 
@@ -41,10 +41,7 @@ void CasoExecucao::SetUp() {
     postoBD.setCasoBD(bd);
     opcoesBD.setCasoBD(bd);
 
-    pastaPlugin = QDir::toNativeSeparators(host.caminho(QStringLiteral("modelos")));
-    ASSERT_TRUE(QDir().mkpath(pastaPlugin));
-    ASSERT_TRUE(QFile::link(QStringLiteral(CORVALIN_PASTA_BIN "/CorvalinTeste"),
-                            pastaPlugin + QDir::separator() + QStringLiteral("Corvalin")));
+    pastaPlugin = InstalaSolverDeTeste(host.caminho(QStringLiteral("modelos")));
 }
 
 void CasoExecucao::TearDown() {
@@ -74,19 +71,36 @@ corvalin::AssistenteExecucao& CasoExecucao::assistente() {
     return *mAssistente;
 }
 
-QString CasoExecucao::pastaCaso() const { return caso->Item(QStringLiteral("Diretorio")); }
+void CasoExecucao::mudaOpcoes(const std::function<void(corvalin::Opcoes&)>& muda) {
+    corvalin::Opcoes opcoes;
+    opcoesBD.getOpcoes(opcoes);
+    muda(opcoes);
+    opcoesBD.setOpcoes(opcoes);
+}
 
-QString CasoExecucao::pastaPosto(std::int32_t codigo) const { return pastaCaso() + QString::number(codigo); }
+QString CasoExecucao::pastaCaso() const {
+    return caso->Item(QStringLiteral("Diretorio"));
+}
+
+QString CasoExecucao::pastaPosto(std::int32_t codigo) const {
+    return pastaCaso() + QString::number(codigo);
+}
 
 QString CasoExecucao::arquivoPosto(std::int32_t codigo, const QString& nome) const {
     return pastaPosto(codigo) + QDir::separator() + nome;
+}
+
+QStringList CasoExecucao::arquivosDe(std::int32_t codigo) const {
+    return QDir(pastaPosto(codigo)).entryList(QDir::Files, QDir::Name);
 }
 
 void CasoExecucao::instrucoes(std::int32_t codigo, const QStringList& linhas) const {
     Grava(pastaCaso() + QStringLiteral("Instrucoes_%1.txt").arg(codigo), linhas);
 }
 
-QStringList CasoExecucao::execucoes() const { return LinhasDe(pastaCaso() + QStringLiteral("Execucoes.txt")); }
+QStringList CasoExecucao::execucoes() const {
+    return LinhasDe(pastaCaso() + QStringLiteral("Execucoes.txt"));
+}
 
 int CasoExecucao::conta(const QString& tabela, std::int32_t codigo) const {
     const auto rs = bd->BancoDeDados().OpenRecordset(tabela);

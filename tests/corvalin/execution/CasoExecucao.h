@@ -15,6 +15,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 namespace teste {
@@ -32,6 +33,7 @@ protected:
 
     // Stores a station: catalogue, general data and history.
     void grava(const corvalin::Posto& posto);
+    void mudaOpcoes(const std::function<void(corvalin::Opcoes&)>& muda);
     // The run logic on this case, made at first use (the screen's opening does not load the list).
     corvalin::AssistenteExecucao& assistente();
 
@@ -39,6 +41,8 @@ protected:
     QString pastaCaso() const;
     QString pastaPosto(std::int32_t codigo) const;
     QString arquivoPosto(std::int32_t codigo, const QString& nome) const;
+    // The files of a station's folder, in name order.
+    QStringList arquivosDe(std::int32_t codigo) const;
     // What the test solver does for a station, and what it noted of its runs.
     void instrucoes(std::int32_t codigo, const QStringList& linhas) const;
     QStringList execucoes() const;

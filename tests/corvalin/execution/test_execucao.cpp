@@ -19,7 +19,7 @@ using ::testing::ElementsAre;
 
 const QString Sucesso = msgCasoExecutadoSucesso;
 const QString Falha = msgCasoExecutadoErro;
-const QString Branco = QStringLiteral(" ");
+const QString Branco = " ";
 
 // The instruction of a forecast with values that tell the weeks and the series apart.
 QString pPrevisao(int base) {
@@ -61,64 +61,49 @@ protected:
         const auto& dados = valores[serie].dados();
         return {dados.begin() + 1, dados.end()};
     }
-
-    QStringList arquivosDe(std::int32_t codigo) const {
-        return QDir(pastaPosto(codigo)).entryList(QDir::Files, QDir::Name);
-    }
-
-    void opcoesComPastaPrevisoes(const QString& pasta) {
-        corvalin::Opcoes opcoes;
-        opcoesBD.getOpcoes(opcoes);
-        opcoes.setPastaPrevisoes(pasta);
-        opcoesBD.setOpcoes(opcoes);
-    }
 };
 
 TEST_F(Execucao, OneStationFromFolderToStoredForecast) {
-    grava(PostoPronto(10, QStringLiteral("Alfa")));
-    instrucoes(10, {pPrevisao(1000), QStringLiteral("relatorio texto"), QStringLiteral("planilha"),
-                    QStringLiteral("prevp"), QStringLiteral("runstate 0")});
+    grava(PostoPronto(10, "Alfa"));
+    instrucoes(10, {pPrevisao(1000), "relatorio texto", "planilha", "prevp", "runstate 0"});
     // The error file stands right behind the plug-in's folder text, not inside the folder.
-    Grava(pastaPlugin + QStringLiteral("merro.tmp"), {QStringLiteral("x")});
+    Grava(pastaPlugin + QStringLiteral("merro.tmp"), {"x"});
     QDir().mkpath(pastaPosto(10));
-    Grava(arquivoPosto(10, QStringLiteral("Caso.dat")), {QStringLiteral("ANTIGO.arq")});
+    Grava(arquivoPosto(10, "Caso.dat"), {"ANTIGO.arq"});
     assistente().pCarregarPostos();
     assistente().pGerarArquivosDireto();
     host.dialogo.limpa();
 
     assistente().pExecutar();
 
-    EXPECT_THAT(execucoes(), ElementsAre(QStringLiteral("10 C10.arq dadosgerais=1 merro=1 previsao=0")));
-    EXPECT_THAT(host.sistema.Programas, ElementsAre(arquivoPosto(10, QStringLiteral("Executa.bat"))));
+    EXPECT_THAT(execucoes(), ElementsAre("10 C10.arq dadosgerais=1 merro=1 previsao=0"));
+    EXPECT_THAT(host.sistema.Programas, ElementsAre(arquivoPosto(10, "Executa.bat")));
     EXPECT_THAT(host.sistema.PastasCorrentes, ElementsAre(QDir::fromNativeSeparators(pastaPosto(10))));
-    EXPECT_THAT(arquivosDe(10), ElementsAre(QStringLiteral("C10.arq"), QStringLiteral("C10.bcx"),
-                                            QStringLiteral("C10.dat"), QStringLiteral("C10.exc"),
-                                            QStringLiteral("C10.prv"), QStringLiteral("C10.rel"),
-                                            QStringLiteral("Caso.dat"), QStringLiteral("RUNSTATE.DAT")));
-    EXPECT_THAT(LinhasDe(arquivoPosto(10, QStringLiteral("Caso.dat"))), ElementsAre(QStringLiteral("C10.arq")));
+    EXPECT_THAT(arquivosDe(10), ElementsAre("C10.arq", "C10.bcx", "C10.dat", "C10.exc", "C10.prv", "C10.rel",
+                                            "Caso.dat", "RUNSTATE.DAT"));
+    EXPECT_THAT(LinhasDe(arquivoPosto(10, "Caso.dat")), ElementsAre("C10.arq"));
     EXPECT_THAT(previsao(10, 0), ElementsAre(1010.5f, 1020.5f, 1030.5f, 1040.5f, 1050.5f, 1060.5f));
     EXPECT_THAT(previsao(10, 2), ElementsAre(1210.5f, 1220.5f, 1230.5f, 1240.5f, 1250.5f, 1260.5f));
 
-    EXPECT_THAT(textosDoRegistro(), ElementsAre(QStringLiteral("Posto 10 - Alfa"), Sucesso, Branco));
+    EXPECT_THAT(textosDoRegistro(), ElementsAre("Posto 10 - Alfa", Sucesso, Branco));
     const auto& linhas = registro.Linhas();
     EXPECT_TRUE(linhas[0].estilo == RegistroTexto::Aviso && linhas[0].destaque && linhas[0].quebraLinha);
     EXPECT_TRUE(linhas[1].estilo == RegistroTexto::Normal && !linhas[1].destaque && linhas[1].quebraLinha);
     EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoSemErro));
-    EXPECT_EQ(assistente().getLblExecutar(), QStringLiteral("Execução do Caso:"));
+    EXPECT_EQ(assistente().getLblExecutar(), "Execução do Caso:");
     EXPECT_THAT(host.dialogo.Ponteiros(), ElementsAre(halvo::Ponteiro::Ocupado, halvo::Ponteiro::Padrao));
 }
 
 TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationStillRuns) {
-    const QStringList nomes = {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C"), QStringLiteral("D"),
-                               QStringLiteral("E")};
+    const QStringList nomes = {"A", "B", "C", "D", "E"};
     for (int i = 0; i < nomes.size(); ++i) {
         grava(PostoPronto((i + 1) * 10, nomes[i]));
     }
-    instrucoes(10, {pPrevisao(100), QStringLiteral("runstate 0")});
-    instrucoes(20, {pPrevisao(200), QStringLiteral("aborta")});
+    instrucoes(10, {pPrevisao(100), "runstate 0"});
+    instrucoes(20, {pPrevisao(200), "aborta"});
     instrucoes(30, {});
-    instrucoes(40, {pPrevisao(400), QStringLiteral("runstate 1")});
-    instrucoes(50, {QStringLiteral("runstate  0 ")});
+    instrucoes(40, {pPrevisao(400), "runstate 1"});
+    instrucoes(50, {"runstate  0 "});
     // A former forecast of the silent station stays when it writes none.
     plataforma::Vetor<float> antiga(6);
     antiga[1] = 7;
@@ -128,9 +113,8 @@ TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationSti
 
     EXPECT_EQ(execucoes().size(), 5);
     EXPECT_THAT(textosDoRegistro(),
-                ElementsAre(QStringLiteral("Posto 10 - A"), Sucesso, Branco, QStringLiteral("Posto 20 - B"), Falha,
-                            Branco, QStringLiteral("Posto 30 - C"), Falha, Branco, QStringLiteral("Posto 40 - D"),
-                            Falha, Branco, QStringLiteral("Posto 50 - E"), Sucesso, Branco));
+                ElementsAre("Posto 10 - A", Sucesso, Branco, "Posto 20 - B", Falha, Branco, "Posto 30 - C",
+                            Falha, Branco, "Posto 40 - D", Falha, Branco, "Posto 50 - E", Sucesso, Branco));
     EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoComErro));
     // A failed station is harvested all the same.
     EXPECT_FLOAT_EQ(previsao(20, 0).at(0), 210.5f);
@@ -139,20 +123,20 @@ TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationSti
 }
 
 TEST_F(Execucao, TheVerdictIsTheFirstLineOfTheStateFileReadAsANumber) {
-    const QString pasta = host.caminho(QStringLiteral("estado"));
+    const QString pasta = host.caminho("estado");
     QDir().mkpath(pasta);
     const QString arquivo = pasta + QStringLiteral("/RUNSTATE.DAT");
     const auto veredito = [&](const QStringList& linhas) {
         Grava(arquivo, linhas);
         return corvalin::ExecucaoPostos::pExecutouSemErro(pasta);
     };
-    EXPECT_TRUE(veredito({QStringLiteral("0")}));
-    EXPECT_TRUE(veredito({QStringLiteral(" 0 "), QStringLiteral("1")}));
+    EXPECT_TRUE(veredito({"0"}));
+    EXPECT_TRUE(veredito({" 0 ", "1"}));
     EXPECT_TRUE(veredito({QString()}));
     EXPECT_TRUE(veredito({}));
-    EXPECT_TRUE(veredito({QStringLiteral("terminou")}));
-    EXPECT_FALSE(veredito({QStringLiteral("1")}));
-    EXPECT_FALSE(veredito({QStringLiteral(" 0.5")}));
+    EXPECT_TRUE(veredito({"terminou"}));
+    EXPECT_FALSE(veredito({"1"}));
+    EXPECT_FALSE(veredito({" 0.5"}));
     QFile::remove(arquivo);
     EXPECT_FALSE(corvalin::ExecucaoPostos::pExecutouSemErro(pasta));
 }
@@ -160,48 +144,48 @@ TEST_F(Execucao, TheVerdictIsTheFirstLineOfTheStateFileReadAsANumber) {
 TEST_F(Execucao, TheSolversNoticeComesBeforeTheStationsLogLineAndIsDeleted) {
     DialogoComRegistro dialogo(registro);
     const halvo::InstalacaoServicos servicos(&dialogo, &host.sistema, &host.halvo);
-    grava(PostoPronto(10, QStringLiteral("Alfa")));
-    grava(PostoPronto(20, QStringLiteral("Beta")));
-    instrucoes(10, {QStringLiteral("aviso Previsão limitada."), QStringLiteral("runstate 0")});
-    instrucoes(20, {QStringLiteral("aviso"), QStringLiteral("runstate 0")});
+    grava(PostoPronto(10, "Alfa"));
+    grava(PostoPronto(20, "Beta"));
+    instrucoes(10, {"aviso Previsão limitada.", "runstate 0"});
+    instrucoes(20, {"aviso", "runstate 0"});
 
     executa();
 
     ASSERT_EQ(dialogo.Mensagens().size(), 1u);
-    EXPECT_EQ(dialogo.Mensagens()[0].texto, QStringLiteral("Previsão limitada."));
+    EXPECT_EQ(dialogo.Mensagens()[0].texto, "Previsão limitada.");
     EXPECT_EQ(dialogo.Mensagens()[0].titulo, msgTituloInformacao);
     EXPECT_EQ(dialogo.Mensagens()[0].icone, halvo::Icone::Informacao);
     EXPECT_THAT(dialogo.LinhasAntes, ElementsAre(0u));
-    EXPECT_FALSE(QFile::exists(arquivoPosto(10, QStringLiteral("Aviso.txt"))));
-    EXPECT_FALSE(QFile::exists(arquivoPosto(20, QStringLiteral("Aviso.txt"))));
+    EXPECT_FALSE(QFile::exists(arquivoPosto(10, "Aviso.txt")));
+    EXPECT_FALSE(QFile::exists(arquivoPosto(20, "Aviso.txt")));
 }
 
 TEST_F(Execucao, TheSharedForecastFolderFeedsAStationWithoutForecastAndTakesEveryForecastBack) {
-    const QString compartilhada = QDir::toNativeSeparators(host.caminho(QStringLiteral("previsoes")));
+    const QString compartilhada = QDir::toNativeSeparators(host.caminho("previsoes"));
     QDir().mkpath(compartilhada);
-    opcoesComPastaPrevisoes(compartilhada);
+    mudaOpcoes([&](corvalin::Opcoes& opcoes) { opcoes.setPastaPrevisoes(compartilhada); });
     const QString compartilhado10 = compartilhada + QDir::separator() + QStringLiteral("C10.prv");
     const QString compartilhado20 = compartilhada + QDir::separator() + QStringLiteral("C20.prv");
-    Grava(compartilhado10, {QStringLiteral("compartilhado 10")});
-    Grava(compartilhado20, {QStringLiteral("compartilhado 20")});
-    grava(PostoPronto(10, QStringLiteral("Alfa")));
-    grava(PostoPronto(20, QStringLiteral("Beta")));
+    Grava(compartilhado10, {"compartilhado 10"});
+    Grava(compartilhado20, {"compartilhado 20"});
+    grava(PostoPronto(10, "Alfa"));
+    grava(PostoPronto(20, "Beta"));
     QDir().mkpath(pastaPosto(20));
-    Grava(arquivoPosto(20, QStringLiteral("C20.prv")), {QStringLiteral("local 20")});
-    instrucoes(10, {QStringLiteral("runstate 0")});
-    instrucoes(20, {QStringLiteral("runstate 0")});
+    Grava(arquivoPosto(20, "C20.prv"), {"local 20"});
+    instrucoes(10, {"runstate 0"});
+    instrucoes(20, {"runstate 0"});
 
     executa();
 
-    EXPECT_THAT(execucoes(), ElementsAre(QStringLiteral("10 C10.arq dadosgerais=1 merro=0 previsao=1"),
-                                         QStringLiteral("20 C20.arq dadosgerais=1 merro=0 previsao=1")));
-    EXPECT_THAT(LinhasDe(arquivoPosto(10, QStringLiteral("C10.prv"))), ElementsAre(QStringLiteral("compartilhado 10")));
-    EXPECT_THAT(LinhasDe(compartilhado20), ElementsAre(QStringLiteral("local 20")));
+    EXPECT_THAT(execucoes(), ElementsAre("10 C10.arq dadosgerais=1 merro=0 previsao=1",
+                                         "20 C20.arq dadosgerais=1 merro=0 previsao=1"));
+    EXPECT_THAT(LinhasDe(arquivoPosto(10, "C10.prv")), ElementsAre("compartilhado 10"));
+    EXPECT_THAT(LinhasDe(compartilhado20), ElementsAre("local 20"));
 }
 
 TEST_F(Execucao, TheStationsEraseFlagsAndTheRemovalOfAnEmptyFolder) {
-    Posto apaga = PostoPronto(10, QStringLiteral("Alfa"));
-    apaga.Arquivos.ArquivoRelatorio = QStringLiteral("REL.DAT.TXT");
+    Posto apaga = PostoPronto(10, "Alfa");
+    apaga.Arquivos.ArquivoRelatorio = "REL.DAT.TXT";
     apaga.Arquivos.ApagarArquivoDadosGerais = true;
     apaga.Arquivos.ApagarArquivoVazoesSemanais = true;
     apaga.Arquivos.ApagarArquivoRelatorio = true;
@@ -209,35 +193,33 @@ TEST_F(Execucao, TheStationsEraseFlagsAndTheRemovalOfAnEmptyFolder) {
     grava(apaga);
     Posto vazia = apaga;
     vazia.Codigo = 20;
-    vazia.Nome = QStringLiteral("Beta");
-    vazia.Arquivos.ArquivoDadosGerais = QStringLiteral("C20.arq");
-    vazia.Arquivos.ArquivoVazoesSemanais = QStringLiteral("C20.dat");
+    vazia.Nome = "Beta";
+    vazia.Arquivos.ArquivoDadosGerais = "C20.arq";
+    vazia.Arquivos.ArquivoVazoesSemanais = "C20.dat";
     grava(vazia);
-    instrucoes(10, {pPrevisao(1), QStringLiteral("relatorio r"), QStringLiteral("planilha"),
-                    QStringLiteral("runstate 0")});
+    instrucoes(10, {pPrevisao(1), "relatorio r", "planilha", "runstate 0"});
     // A solver that clears away its own control file leaves nothing behind.
-    instrucoes(20, {QStringLiteral("apaga Caso.dat")});
+    instrucoes(20, {"apaga Caso.dat"});
 
     executa();
 
     // The report's companion is named from its first dot.
-    EXPECT_THAT(arquivosDe(10), ElementsAre(QStringLiteral("C10.prv"), QStringLiteral("Caso.dat"),
-                                            QStringLiteral("RUNSTATE.DAT")));
+    EXPECT_THAT(arquivosDe(10), ElementsAre("C10.prv", "Caso.dat", "RUNSTATE.DAT"));
     EXPECT_FALSE(QDir(pastaPosto(20)).exists());
-    EXPECT_THAT(textosDoRegistro(), ElementsAre(QStringLiteral("Posto 10 - Alfa"), Sucesso, Branco,
-                                                QStringLiteral("Posto 20 - Beta"), Falha, Branco));
+    EXPECT_THAT(textosDoRegistro(),
+                ElementsAre("Posto 10 - Alfa", Sucesso, Branco, "Posto 20 - Beta", Falha, Branco));
 }
 
 TEST_F(Execucao, TheHostsRunTakesEveryStationTwiceWithoutLimitsFiles) {
-    Posto alfa = PostoPronto(10, QStringLiteral("Alfa"));
+    Posto alfa = PostoPronto(10, "Alfa");
     alfa.Arquivos.ApagarArquivoDadosGerais = true;
     alfa.FlagLimite = 1;
-    alfa.NomeArqLimite = QStringLiteral("C10.lim");
+    alfa.NomeArqLimite = "C10.lim";
     alfa.discretizacao = 2;
     grava(alfa);
-    grava(PostoPronto(20, QStringLiteral("Beta")));
-    instrucoes(10, {QStringLiteral("runstate 0")});
-    instrucoes(20, {QStringLiteral("runstate 0")});
+    grava(PostoPronto(20, "Beta"));
+    instrucoes(10, {"runstate 0"});
+    instrucoes(20, {"runstate 0"});
 
     // The screen's opening loads the list, and the run loads it again behind.
     assistente().pCarregarPostos();
@@ -245,11 +227,11 @@ TEST_F(Execucao, TheHostsRunTakesEveryStationTwiceWithoutLimitsFiles) {
 
     EXPECT_EQ(lista.Quantidade(), 4);
     // The first pass erases the general data file, so the second finds none.
-    EXPECT_THAT(execucoes(), ElementsAre(QStringLiteral("10 C10.arq dadosgerais=1 merro=0 previsao=0"),
-                                         QStringLiteral("20 C20.arq dadosgerais=1 merro=0 previsao=0"),
-                                         QStringLiteral("10 C10.arq dadosgerais=0 merro=0 previsao=0"),
-                                         QStringLiteral("20 C20.arq dadosgerais=1 merro=0 previsao=0")));
-    EXPECT_FALSE(QFile::exists(arquivoPosto(10, QStringLiteral("C10.lim"))));
+    EXPECT_THAT(execucoes(), ElementsAre("10 C10.arq dadosgerais=1 merro=0 previsao=0",
+                                         "20 C20.arq dadosgerais=1 merro=0 previsao=0",
+                                         "10 C10.arq dadosgerais=0 merro=0 previsao=0",
+                                         "20 C20.arq dadosgerais=1 merro=0 previsao=0"));
+    EXPECT_FALSE(QFile::exists(arquivoPosto(10, "C10.lim")));
     EXPECT_EQ(textosDoRegistro().count(Sucesso), 4);
     EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoSemErro));
 }

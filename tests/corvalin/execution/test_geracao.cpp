@@ -18,8 +18,8 @@ using ::testing::ElementsAre;
 class JanelaGravadora : public corvalin::JanelaProgresso {
 public:
     void setCaption(const QString& texto) override { Eventos << QStringLiteral("caption ") + texto; }
-    void Mostra() override { Eventos << QStringLiteral("mostra"); }
-    void Esconde() override { Eventos << QStringLiteral("esconde"); }
+    void Mostra() override { Eventos << "mostra"; }
+    void Esconde() override { Eventos << "esconde"; }
     corvalin::Progresso& Barra() override { return mBarra; }
 
     QStringList Eventos;
@@ -33,27 +33,16 @@ protected:
     // Two stations; the second with limits and a Vazpast file.
     void SetUp() override {
         CasoExecucao::SetUp();
-        grava(PostoPronto(10, QStringLiteral("Alfa")));
-        Posto comLimites = PostoPronto(20, QStringLiteral("Beta"));
+        grava(PostoPronto(10, "Alfa"));
+        Posto comLimites = PostoPronto(20, "Beta");
         comLimites.FlafVazpast = true;
-        comLimites.NomeArqVazpast = QStringLiteral("VAZPAST.dat");
+        comLimites.NomeArqVazpast = "VAZPAST.dat";
         comLimites.FlagLimite = 1;
-        comLimites.NomeArqLimite = QStringLiteral("C20.lim");
+        comLimites.NomeArqLimite = "C20.lim";
         comLimites.discretizacao = 2;
         comLimites.Magnitude = 1;
         grava(comLimites);
         assistente().pCarregarPostos();
-    }
-
-    void opcaoNaoUsaLimite(bool valor) {
-        corvalin::Opcoes opcoes;
-        opcoesBD.getOpcoes(opcoes);
-        opcoes.Arquivos.NaoUsaLimite = valor;
-        opcoesBD.setOpcoes(opcoes);
-    }
-
-    QStringList arquivosDe(std::int32_t codigo) const {
-        return QDir(pastaPosto(codigo)).entryList(QDir::Files, QDir::Name);
     }
 };
 
@@ -61,58 +50,49 @@ TEST_F(Geracao, TheAssistantWritesEachCheckedStationsFilesInItsFolderUnderThePro
     JanelaGravadora janela;
     assistente().pGerarArquivos(janela);
 
-    EXPECT_THAT(arquivosDe(10), ElementsAre(QStringLiteral("C10.arq"), QStringLiteral("C10.dat")));
-    EXPECT_THAT(arquivosDe(20), ElementsAre(QStringLiteral("C20.arq"), QStringLiteral("C20.dat"),
-                                            QStringLiteral("C20.lim"), QStringLiteral("VAZPAST.dat")));
+    EXPECT_THAT(arquivosDe(10), ElementsAre("C10.arq", "C10.dat"));
+    EXPECT_THAT(arquivosDe(20), ElementsAre("C20.arq", "C20.dat", "C20.lim", "VAZPAST.dat"));
     const QString gerando = QStringLiteral("caption %1: ") + corvalin::Mensagens::msgGerandoDadosGerais;
     const QString vazoes = QStringLiteral("caption %1: ") + corvalin::Mensagens::msgGerandoVazoesSemanais;
     EXPECT_THAT(janela.Eventos,
-                ElementsAre(QStringLiteral("mostra"), gerando.arg(QStringLiteral("10 - Alfa")), QStringLiteral("mostra"),
-                            vazoes.arg(QStringLiteral("10 - Alfa")), gerando.arg(QStringLiteral("20 - Beta")),
-                            QStringLiteral("mostra"), vazoes.arg(QStringLiteral("20 - Beta")),
-                            QStringLiteral("esconde")));
+                ElementsAre("mostra", gerando.arg("10 - Alfa"), "mostra", vazoes.arg("10 - Alfa"),
+                            gerando.arg("20 - Beta"), "mostra", vazoes.arg("20 - Beta"), "esconde"));
     // The general data file names the limits file it was written with.
-    EXPECT_EQ(LinhasDe(arquivoPosto(20, QStringLiteral("C20.arq"))).at(14), QStringLiteral("1"));
-}
-
-TEST_F(Geracao, TheCaseOptionOfNotUsingLimitsReachesTheGeneralDataAndStopsTheLimitsFile) {
-    opcaoNaoUsaLimite(true);
-    lista.setMarcada(0, false);
-    JanelaGravadora janela;
-    assistente().pGerarArquivos(janela);
-
-    EXPECT_FALSE(QDir(pastaPosto(10)).exists());
-    EXPECT_THAT(arquivosDe(20),
-                ElementsAre(QStringLiteral("C20.arq"), QStringLiteral("C20.dat"), QStringLiteral("VAZPAST.dat")));
-    const QStringList dadosGerais = LinhasDe(arquivoPosto(20, QStringLiteral("C20.arq")));
-    EXPECT_EQ(dadosGerais.at(14), QStringLiteral(" 0 "));
-    EXPECT_EQ(dadosGerais.at(15), QString());
+    EXPECT_EQ(LinhasDe(arquivoPosto(20, "C20.arq")).at(14), "1");
 }
 
 TEST_F(Geracao, AStationWithCodeZeroGetsNoLimitsFile) {
-    Posto zero = PostoPronto(0, QStringLiteral("Zero"));
+    Posto zero = PostoPronto(0, "Zero");
     zero.FlagLimite = 1;
-    zero.NomeArqLimite = QStringLiteral("C0.lim");
+    zero.NomeArqLimite = "C0.lim";
     zero.discretizacao = 2;
     grava(zero);
-    lista.Adiciona(QStringLiteral("0 - Zero"));
+    lista.Adiciona("0 - Zero");
     lista.setMarcada(0, false);
     lista.setMarcada(1, false);
     lista.setMarcada(2, true);
     JanelaGravadora janela;
     assistente().pGerarArquivos(janela);
-    EXPECT_THAT(arquivosDe(0), ElementsAre(QStringLiteral("C0.arq"), QStringLiteral("C0.dat")));
+    EXPECT_THAT(arquivosDe(0), ElementsAre("C0.arq", "C0.dat"));
 }
 
-TEST_F(Geracao, TheHostsRoadWritesNoLimitsFileAndReadsNoOptions) {
-    opcaoNaoUsaLimite(true);
+// The case's switch against limits reaches the general data and stops the limits file on the
+// screen's road. The host's road reads no options and writes no limits file, while the station's
+// own flag still names one.
+TEST_F(Geracao, TheCaseOptionOfNotUsingLimitsOnTheScreensRoadAndTheHosts) {
+    mudaOpcoes([](corvalin::Opcoes& opcoes) { opcoes.Arquivos.NaoUsaLimite = true; });
+    lista.setMarcada(0, false);
+    JanelaGravadora janela;
+    assistente().pGerarArquivos(janela);
+    EXPECT_FALSE(QDir(pastaPosto(10)).exists());
+    const QStringList semLimites = {"C20.arq", "C20.dat", "VAZPAST.dat"};
+    EXPECT_EQ(arquivosDe(20), semLimites);
+    EXPECT_EQ(LinhasDe(arquivoPosto(20, "C20.arq")).mid(14, 2), (QStringList{" 0 ", QString()}));
+
+    QDir(pastaPosto(20)).removeRecursively();
     assistente().pGerarArquivosDireto();
-    EXPECT_THAT(arquivosDe(20),
-                ElementsAre(QStringLiteral("C20.arq"), QStringLiteral("C20.dat"), QStringLiteral("VAZPAST.dat")));
-    // The station's own flag stands, and so its general data still name the limits file.
-    const QStringList dadosGerais = LinhasDe(arquivoPosto(20, QStringLiteral("C20.arq")));
-    EXPECT_EQ(dadosGerais.at(14), QStringLiteral("1"));
-    EXPECT_EQ(dadosGerais.at(15), QStringLiteral("C20.lim"));
+    EXPECT_EQ(arquivosDe(20), semLimites);
+    EXPECT_EQ(LinhasDe(arquivoPosto(20, "C20.arq")).mid(14, 2), (QStringList{"1", "C20.lim"}));
 }
 
 }  // namespace
