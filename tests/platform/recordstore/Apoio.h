@@ -3,6 +3,8 @@
 #include "platform/recordstore/Recordstore.h"
 #include "tests/platform/runtime/Casos.h"
 
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <cstdint>
@@ -20,26 +22,102 @@ using recordstore::Valor;
 using Inteiros = std::vector<std::int64_t>;
 
 // AddNew, the fields given, Update.
-void adiciona(Recordset& rs, std::initializer_list<std::pair<const char*, Valor>> campos);
-std::int64_t inteiro(const Recordset& rs, const char* campo);
-QString texto(const Recordset& rs, const char* campo);
+inline void adiciona(Recordset& rs, std::initializer_list<std::pair<const char*, Valor>> campos) {
+    rs.AddNew();
+    for (const auto& [nome, valor] : campos) {
+        rs.setCampo(QString::fromLatin1(nome), valor);
+    }
+    rs.Update();
+}
+
+inline std::int64_t inteiro(const Recordset& rs, const char* campo) {
+    return rs.campo(QString::fromLatin1(campo)).paraInteiro();
+}
+
+inline QString texto(const Recordset& rs, const char* campo) {
+    return rs.campo(QString::fromLatin1(campo)).paraTexto();
+}
+
 // The field's values from the current record to the end (or the beginning, going back).
-Inteiros ateOFim(Recordset& rs, const char* campo, bool avanca = true);
-// Leaves the handle past the end.
-int contaLinhas(Recordset& rs);
+inline Inteiros ateOFim(Recordset& rs, const char* campo, bool avanca = true) {
+    Inteiros valores;
+    while (avanca ? !rs.Eof() : !rs.Bof()) {
+        valores.push_back(inteiro(rs, campo));
+        avanca ? rs.MoveNext() : rs.MovePrevious();
+    }
+    return valores;
+}
+
+// The field's values of the whole table in the current order; leaves the handle past the end.
+inline Inteiros todos(Recordset& rs, const char* campo) {
+    if (rs.Bof() && rs.Eof()) {
+        return {};
+    }
+    rs.MoveFirst();
+    return ateOFim(rs, campo);
+}
+
 // Runs the sqlite3 command-line shell on a file; empty when the shell is not installed.
-QString sqlite3(const QString& arquivo, const QString& comandos);
+inline QString sqlite3(const QString& arquivo, const QString& comandos) {
+    const QString programa = QStandardPaths::findExecutable(u"sqlite3"_s);
+    if (programa.isEmpty()) {
+        return {};
+    }
+    QProcess p;
+    p.start(programa, {arquivo});
+    p.write(comandos.toUtf8());
+    p.closeWriteChannel();
+    p.waitForFinished();
+    return QString::fromUtf8(p.readAllStandardOutput() + p.readAllStandardError());
+}
 
 // A fresh database in a folder of its own, with the two shapes of table the stores use most: a
 // catalogue keyed by a code and sorted by a name, and a history under a three-field key.
 class BaseDeTeste : public ::testing::Test {
 protected:
-    void SetUp() override;
+    void SetUp() override {
+        ASSERT_TRUE(mPasta.isValid());
+        bd = Database::CreateDatabase(caminho());
+    }
     QString caminho(const QString& nome = u"Corvalin.mdb"_s) const { return mPasta.filePath(nome); }
-    void criaPostos();
-    void criaVazoes();
+
+    void criaPostos() {
+        recordstore::TableDef t{u"Postos"_s,
+                                {CreateField(u"CodigoDoPosto"_s, Tipo::Long),
+                                 CreateField(u"NomeDoAproveitamento"_s, Tipo::Texto, 60),
+                                 CreateField(u"AreaDeDrenagem"_s, Tipo::Single)},
+                                {{u"CodigoDoPosto"_s, true, u"CodigoDoPosto"_s},
+                                 {u"NomeDoAproveitamento"_s, false, u"NomeDoAproveitamento"_s}}};
+        t.Fields[2].DefaultValue = 0;
+        bd->Append(t);
+    }
+    void criaVazoes() {
+        bd->Append({u"VazoesSemanais"_s,
+                    {CreateField(u"CodigoDoPosto"_s, Tipo::Long), CreateField(u"Ano"_s, Tipo::Integer),
+                     CreateField(u"Semana"_s, Tipo::Byte), CreateField(u"Vazao"_s, Tipo::Single)},
+                    {{u"CodigoDoPostoAnoSemana"_s, true, u"CodigoDoPosto;+Ano;+Semana"_s},
+                     {u"CodigoDoPosto"_s, false, u"CodigoDoPosto"_s}}});
+    }
     // A field of every type, keyed by Chave; some with defaults, Livre allows a zero-length text.
-    static recordstore::TableDef defTipos();
+    static recordstore::TableDef defTipos() {
+        recordstore::TableDef t{
+            u"Tipos"_s,
+            {CreateField(u"Chave"_s, Tipo::Long), CreateField(u"Sim"_s, Tipo::Boolean),
+             CreateField(u"Octeto"_s, Tipo::Byte), CreateField(u"Curto"_s, Tipo::Integer),
+             CreateField(u"Simples"_s, Tipo::Single), CreateField(u"Duplo"_s, Tipo::Double),
+             CreateField(u"Quando"_s, Tipo::DataHora), CreateField(u"Nome"_s, Tipo::Texto, 6),
+             CreateField(u"Livre"_s, Tipo::Texto, 6)},
+            {{u"Chave"_s, true, u"Chave"_s},
+             {u"OctetoCurto"_s, false, u"Octeto;-Curto"_s},
+             {u"Nome"_s, false, u"Nome"_s}}};
+        t.Fields[1].DefaultValue = true;
+        t.Fields[3].DefaultValue = -1;
+        t.Fields[4].DefaultValue = 0.1f;
+        t.Fields[6].DefaultValue = "2000-01-01 00:00:00";
+        t.Fields[7].DefaultValue = "O'Neil";  // quoted in the schema's SQL
+        t.Fields[8].AllowZeroLength = true;
+        return t;
+    }
     static void adicionaPosto(Recordset& rs, int codigo, const QString& nome) {
         adiciona(rs, {{"CodigoDoPosto", codigo}, {"NomeDoAproveitamento", nome}});
     }

@@ -1,7 +1,5 @@
 #include "Apoio.h"
 
-#include <tuple>
-
 namespace {
 
 class Cursor : public BaseDeTeste {
@@ -14,18 +12,11 @@ protected:
         vazoes = bd->OpenRecordset(u"VazoesSemanais"_s);
     }
 
-    // Station 1: 1998 weeks 1-3, 1999 weeks 1-2; station 2: 1998 week 2, 1999 weeks 1 and 3;
-    // written out of key order, so that physical order and index order differ. The flow is the key.
+    // Station 1: 1998 weeks 1-3, 1999 weeks 1-2; station 2: 1998 week 2, 1999 weeks 1 and 3; written
+    // out of key order, so that physical order and index order differ. The flow spells the key.
     void preencheVazoes() {
-        for (const auto& [codigo, ano, semana] : {std::tuple{2, 1999, 3},
-                                                  {1, 1998, 1},
-                                                  {2, 1998, 2},
-                                                  {1, 1999, 2},
-                                                  {1, 1998, 3},
-                                                  {2, 1999, 1},
-                                                  {1, 1998, 2},
-                                                  {1, 1999, 1}}) {
-            adicionaVazao(*vazoes, codigo, ano, semana, codigo * 10000 + ano % 100 * 100 + semana);
+        for (const int vazao : {29903, 19801, 29802, 19902, 19803, 29901, 19802, 19901}) {
+            adicionaVazao(*vazoes, vazao / 10000, 1900 + vazao / 100 % 100, vazao % 100, vazao);
         }
         vazoes->setIndex(u"CodigoDoPostoAnoSemana"_s);
     }
@@ -77,42 +68,31 @@ TEST_F(Cursor, AddNewKeepsTheFormerCurrentRecordAndEditTheEditedOne) {
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 30);
 }
 
-TEST_F(Cursor, MovingPastEitherEndSetsBofOrEofAndOneMoreMoveFails) {
+TEST_F(Cursor, WalksFollowTheCurrentIndexBothWaysAndStopPastEitherEnd) {
     preencheVazoes();
-    vazoes->MoveFirst();
-    vazoes->MovePrevious();
+    const Inteiros emOrdem{19801, 19802, 19803, 19901, 19902, 29802, 29901, 29903};
+    EXPECT_EQ(todos(*vazoes, "Vazao"), emOrdem);
+    EXPECT_TRUE(vazoes->Eof() && !vazoes->Bof());
+    EXPECT_EQ(numeroDoErro([&] { vazoes->MoveNext(); }), 3021);
+    vazoes->MoveLast();
+    EXPECT_EQ(ateOFim(*vazoes, "Vazao", false), Inteiros(emOrdem.rbegin(), emOrdem.rend()));
     EXPECT_TRUE(vazoes->Bof() && !vazoes->Eof());
     confere<int>({ERRO(vazoes->MovePrevious(), 3021), ERRO(vazoes->campo(u"Ano"_s), 3021)});
     vazoes->MoveNext();
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 19801);
 
-    vazoes->MoveLast();
-    EXPECT_EQ(inteiro(*vazoes, "Vazao"), 29903);
-    vazoes->MoveNext();
-    EXPECT_TRUE(vazoes->Eof() && !vazoes->Bof());
-    EXPECT_EQ(numeroDoErro([&] { vazoes->MoveNext(); }), 3021);
-    vazoes->MovePrevious();
-    EXPECT_EQ(inteiro(*vazoes, "Vazao"), 29903);
-}
-
-TEST_F(Cursor, WalksFollowTheCurrentIndexBothWays) {
-    preencheVazoes();
-    const Inteiros emOrdem{19801, 19802, 19803, 19901, 19902, 29802, 29901, 29903};
-    vazoes->MoveFirst();
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), emOrdem);
-    vazoes->MoveLast();
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao", false), Inteiros(emOrdem.rbegin(), emOrdem.rend()));
-
-    // Turning back in the middle of a walk.
-    vazoes->MoveFirst();
+    // Turning back in the middle of a walk, or from past the end.
     vazoes->MoveNext();
     vazoes->MoveNext();
     vazoes->MovePrevious();
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 19802);
+    vazoes->MoveLast();
+    vazoes->MoveNext();
+    vazoes->MovePrevious();
+    EXPECT_EQ(inteiro(*vazoes, "Vazao"), 29903);
 
     vazoes->setIndex({});
-    vazoes->MoveFirst();
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), (Inteiros{29903, 19801, 29802, 19902, 19803, 29901, 19802, 19901}));
+    EXPECT_EQ(todos(*vazoes, "Vazao"), (Inteiros{29903, 19801, 29802, 19902, 19803, 29901, 19802, 19901}));
 }
 
 TEST_F(Cursor, AnotherIndexMakesItsFirstRecordCurrent) {
@@ -154,17 +134,35 @@ TEST_F(Cursor, SeekFindsTheFirstRecordOverAPrefixOfTheKey) {
     EXPECT_EQ(ateOFim(*vazoes, "Vazao", false), (Inteiros{29802, 19902, 19901, 19803, 19802, 19801}));
 }
 
-TEST_F(Cursor, DuplicatesOfANonUniqueIndexKeepTheOrderOfInsertion) {
-    for (const auto& [codigo, nome] :
-         {std::pair{5, "Furnas"}, {3, "Furnas"}, {9, "Furnas"}, {1, "Emborcação"}, {4, "Furnas"}}) {
-        adicionaPosto(*postos, codigo, QString::fromUtf8(nome));
+TEST_F(Cursor, TextSortsAndSeeksIgnoringCaseButNotAccentsAndTiesKeepTheOrderOfInsertion) {
+    int codigo = 0;
+    for (const char* nome :
+         {"São Simão", "furnas", "Sao Simao", "Água Vermelha", "FURNAS", "Agua Limpa", "Balbina", "furnas"}) {
+        adicionaPosto(*postos, ++codigo, QString::fromUtf8(nome));
     }
     postos->setIndex(u"NomeDoAproveitamento"_s);
-    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto"), (Inteiros{1, 5, 3, 9, 4}));
+    const Inteiros emOrdem{6, 4, 7, 2, 5, 8, 3, 1};  // an accent sorts after its plain letter
+    EXPECT_EQ(todos(*postos, "CodigoDoPosto"), emOrdem);
     postos->MoveLast();
-    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto", false), (Inteiros{4, 9, 3, 5, 1}));
-    postos->Seek(u"="_s, {u"Furnas"_s});
-    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto"), (Inteiros{5, 3, 9, 4}));
+    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto", false), Inteiros(emOrdem.rbegin(), emOrdem.rend()));
+
+    const auto seek = [&](const char* comparacao, const char* nome) -> std::int64_t {
+        postos->Seek(QString::fromLatin1(comparacao), {QString::fromUtf8(nome)});
+        return postos->NoMatch() ? -1 : inteiro(*postos, "CodigoDoPosto");
+    };
+    confere<std::int64_t>({CASO(seek("=", "SÃO SIMÃO"), 1), CASO(seek("=", "Agua Vermelha"), -1),
+                           CASO(seek(">=", "agua m"), 4), CASO(seek(">=", "sao simao"), 3),
+                           CASO(seek("=", std::string(80, 'x').c_str()), -1)});  // longer than the field
+    seek("=", "Furnas");
+    EXPECT_EQ(ateOFim(*postos, "CodigoDoPosto"), (Inteiros{2, 5, 8, 3, 1}));
+}
+
+TEST_F(Cursor, AUniqueTextKeyRefusesTheSameTextInAnotherCase) {
+    bd->Append({u"Siglas"_s, {CreateField(u"Sigla"_s, Tipo::Texto, 10)}, {{u"Sigla"_s, true, u"Sigla"_s}}});
+    auto siglas = bd->OpenRecordset(u"Siglas"_s);
+    adiciona(*siglas, {{"Sigla", u"São"_s}});
+    adiciona(*siglas, {{"Sigla", u"Sao"_s}});  // another accent is another text
+    EXPECT_EQ(numeroDoErro([&] { adiciona(*siglas, {{"Sigla", u"SÃO"_s}}); }), 3022);
 }
 
 TEST_F(Cursor, AfterDeleteTheMovesGoFromTheDeletedRecordsPlace) {
@@ -186,8 +184,7 @@ TEST_F(Cursor, AfterDeleteTheMovesGoFromTheDeletedRecordsPlace) {
         vazoes->MoveNext();
     }
     EXPECT_EQ(inteiro(*vazoes, "Vazao"), 29802);
-    vazoes->MoveFirst();
-    EXPECT_EQ(ateOFim(*vazoes, "Vazao"), (Inteiros{29802, 29901, 29903}));
+    EXPECT_EQ(todos(*vazoes, "Vazao"), (Inteiros{29802, 29901, 29903}));
     vazoes->MoveLast();
     vazoes->Delete();
     vazoes->MoveNext();
@@ -208,7 +205,9 @@ TEST_F(Cursor, ABookmarkBringsBackItsRecordUnderAnyIndex) {
     EXPECT_EQ(numeroDoErro([&] { vazoes->setBookmark(marca); }), 3159);
 }
 
-TEST_F(Cursor, MovingDropsAPendingEdit) {
+TEST_F(Cursor, UpdateNeedsAnAddNewOrEditThatNoMoveOrCancelDropped) {
+    confere<int>({ERRO(postos->Update(), 3020), ERRO(postos->setCampo(u"NomeDoAproveitamento"_s, "a"), 3020),
+                  ERRO(postos->CancelUpdate(), 3020)});
     adicionaPosto(*postos, 1, u"Furnas"_s);
     postos->AddNew();
     postos->setCampo(u"CodigoDoPosto"_s, 2);
@@ -219,7 +218,11 @@ TEST_F(Cursor, MovingDropsAPendingEdit) {
     postos->setCampo(u"NomeDoAproveitamento"_s, u"Outro"_s);
     postos->setIndex(u"CodigoDoPosto"_s);
     EXPECT_EQ(numeroDoErro([&] { postos->Update(); }), 3020);
-    EXPECT_EQ(contaLinhas(*postos), 1);
+    postos->AddNew();
+    postos->setCampo(u"CodigoDoPosto"_s, 3);
+    postos->CancelUpdate();
+    EXPECT_EQ(numeroDoErro([&] { postos->Update(); }), 3020);
+    EXPECT_EQ(todos(*postos, "CodigoDoPosto"), Inteiros{1});
     postos->MoveFirst();
     EXPECT_EQ(texto(*postos, "NomeDoAproveitamento"), "Furnas");
 }

@@ -24,20 +24,14 @@ protected:
         postos->setIndex(u"CodigoDoPosto"_s);
     }
 
-    Inteiros codigos() {
-        if (postos->Bof() && postos->Eof()) {
-            return {};
-        }
-        postos->MoveFirst();
-        return ateOFim(*postos, "CodigoDoPosto");
-    }
+    Inteiros codigos() { return todos(*postos, "CodigoDoPosto"); }
 
     std::unique_ptr<Recordset> postos;
 };
 
 }  // namespace
 
-TEST_F(Transacoes, NestedTransactionsCommitOnlyAtTheOutermost) {
+TEST_F(Transacoes, NestedTransactionsCommitOnlyAtTheOutermostAndAScopeRollsBackUnlessCommitted) {
     confere<int>({ERRO(bd->CommitTrans(), 3034), ERRO(bd->Rollback(), 3034)});
     bd->BeginTrans();
     adicionaPosto(*postos, 1, u"Um"_s);
@@ -56,6 +50,23 @@ TEST_F(Transacoes, NestedTransactionsCommitOnlyAtTheOutermost) {
     bd = Database::OpenDatabase(caminho());
     abrePostos();
     EXPECT_EQ(codigos(), (Inteiros{1, 4}));
+
+    // A scope left by an exception rolls back; one that commits leaves nothing open.
+    EXPECT_THROW(
+        {
+            Transacao t(*bd);
+            adicionaPosto(*postos, 2, u"Dois"_s);
+            throw std::runtime_error("falhou no meio");
+        },
+        std::runtime_error);
+    EXPECT_EQ(codigos(), (Inteiros{1, 4}));
+    {
+        Transacao t(*bd);
+        adicionaPosto(*postos, 3, u"Três"_s);
+        t.Commit();
+    }
+    EXPECT_EQ(codigos(), (Inteiros{1, 3, 4}));
+    EXPECT_EQ(numeroDoErro([&] { bd->CommitTrans(); }), 3034);
 }
 
 TEST_F(Transacoes, RollbackRestoresRowsAndDropsPendingEdits) {
@@ -79,25 +90,6 @@ TEST_F(Transacoes, RollbackRestoresRowsAndDropsPendingEdits) {
     EXPECT_EQ(codigos(), (Inteiros{1, 2, 3}));
 }
 
-TEST_F(Transacoes, AScopeLeftByAnExceptionRollsBack) {
-    EXPECT_THROW(
-        {
-            Transacao t(*bd);
-            adicionaPosto(*postos, 1, u"Um"_s);
-            adicionaPosto(*postos, 2, u"Dois"_s);
-            throw std::runtime_error("falhou no meio");
-        },
-        std::runtime_error);
-    EXPECT_EQ(codigos(), Inteiros{});
-    {
-        Transacao t(*bd);
-        adicionaPosto(*postos, 3, u"Três"_s);
-        t.Commit();
-    }
-    EXPECT_EQ(codigos(), Inteiros{3});
-    EXPECT_EQ(numeroDoErro([&] { bd->CommitTrans(); }), 3034);  // the scope left nothing open
-}
-
 TEST_F(Transacoes, ClosingTheDatabaseInvalidatesItsHandles) {
     adicionaPosto(*postos, 1, u"Um"_s);
     bd->BeginTrans();
@@ -113,7 +105,7 @@ TEST_F(Transacoes, ClosingTheDatabaseInvalidatesItsHandles) {
 
     bd = Database::OpenDatabase(caminho());
     abrePostos();
-    EXPECT_EQ(contaLinhas(*postos), 1);
+    EXPECT_EQ(codigos(), Inteiros{1});
     postos->Close();
     EXPECT_EQ(numeroDoErro([&] { postos->MoveFirst(); }), 3420);
 }
@@ -145,14 +137,14 @@ TEST_F(Transacoes, TwoHandlesOnOneTableSeeEachOthersWrites) {
     // of its own always starts from the latest one.
     auto segundo = Database::OpenDatabase(caminho());
     auto dele = segundo->OpenRecordset(u"Postos"_s);
-    EXPECT_EQ(contaLinhas(*dele), 4);
+    EXPECT_EQ(todos(*dele, "CodigoDoPosto").size(), 4u);
     {
         Transacao t(*bd);
         adicionaPosto(*outro, 50, u"P50"_s);
         t.Commit();
     }
     Transacao t(*segundo);
-    EXPECT_EQ(contaLinhas(*dele), 5);
+    EXPECT_EQ(todos(*dele, "CodigoDoPosto").size(), 5u);
 }
 
 TEST_F(Transacoes, ASecondWriterWaitsForTheFirstRatherThanFailing) {
