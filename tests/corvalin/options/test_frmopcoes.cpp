@@ -1,5 +1,5 @@
-// The options screen driven through its controls: its lists, the checks of a save, the offer to
-// bring the stations into line, the folder box, Enter across the tabs and a read-only case.
+// The options screen driven through its controls: a save seen again, the checks of a save, the
+// offer to bring the stations into line, Enter across the tabs, the folder box and a read-only case.
 
 #include "corvalin/options/FrmOpcoes.h"
 #include "corvalin/options/Opcoes.h"
@@ -15,6 +15,7 @@
 #include <QTabWidget>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
 using halvo::Resposta;
 using teste::controle;
 
@@ -23,31 +24,20 @@ namespace {
 struct Frm {
     explicit Frm(const teste::CasoDeTelas& caso) : tela(teste::carrega<corvalin::FrmOpcoes>(caso)) {}
 
-    QComboBox& nome(int i) const {
-        return controle<QComboBox>(*tela, QStringLiteral("CboOpcoesArquivosNome_%1").arg(i));
+    // A control by its kind and role: "CboArquivosNome", 2 is CboOpcoesArquivosNome_2.
+    template <class T>
+    T& c(const QString& nome, int i = -1) const {
+        return controle<T>(
+            *tela, u"%1Opcoes%2"_s.arg(nome.left(3), nome.mid(3)) + (i < 0 ? QString() : u"_%1"_s.arg(i)));
     }
-    QComboBox& extensao(int i) const {
-        return controle<QComboBox>(*tela, QStringLiteral("CboOpcoesArquivosExtensao_%1").arg(i));
-    }
-    QCheckBox& exclusao(int i) const {
-        return controle<QCheckBox>(*tela, QStringLiteral("ChkOpcoesExclusao_%1").arg(i));
-    }
-    QCheckBox& chkPasta() const {
-        return controle<QCheckBox>(*tela, QStringLiteral("ChkOpcoesPastaPrevisoes"));
-    }
-    QLineEdit& pasta() const { return controle<QLineEdit>(*tela, QStringLiteral("TxtOpcoesPastaPrevisoes")); }
-    QLineEdit& filtro(int i) const {
-        return controle<QLineEdit>(*tela, QStringLiteral("TxtOpcoesFiltro_%1").arg(i));
-    }
-    QLineEdit& descricao(int i) const {
-        return controle<QLineEdit>(*tela, QStringLiteral("TxtOpcoesFiltroDescricao_%1").arg(i));
-    }
-    QTabWidget& abas() const { return controle<QTabWidget>(*tela, QStringLiteral("GuiOpcoes")); }
-    QPushButton& botao(const QString& nome) const {
-        return controle<QPushButton>(*tela, QStringLiteral("BotOpcoes") + nome);
-    }
-    void grava() const { botao(QStringLiteral("Grava")).click(); }
-    // The row's two parts as the user types them.
+    QComboBox& nome(int i) const { return c<QComboBox>(u"CboArquivosNome"_s, i); }
+    QComboBox& extensao(int i) const { return c<QComboBox>(u"CboArquivosExtensao"_s, i); }
+    QCheckBox& exclusao(int i) const { return c<QCheckBox>(u"ChkExclusao"_s, i); }
+    QCheckBox& chkPasta() const { return c<QCheckBox>(u"ChkPastaPrevisoes"_s); }
+    QLineEdit& pasta() const { return c<QLineEdit>(u"TxtPastaPrevisoes"_s); }
+    QLineEdit& filtro(int i) const { return c<QLineEdit>(u"TxtFiltro"_s, i); }
+    QTabWidget& abas() const { return controle<QTabWidget>(*tela, u"GuiOpcoes"_s); }
+    void grava() const { c<QPushButton>(u"BotGrava"_s).click(); }
     void digita(int i, const QString& nomeDoArquivo, const QString& ext) const {
         nome(i).lineEdit()->clear();
         extensao(i).lineEdit()->clear();
@@ -58,14 +48,6 @@ struct Frm {
     std::unique_ptr<corvalin::FrmOpcoes> tela;
 };
 
-QStringList itens(const QComboBox& lista) {
-    QStringList textos;
-    for (int i = 0; i < lista.count(); ++i) {
-        textos << lista.itemText(i);
-    }
-    return textos;
-}
-
 corvalin::Opcoes leOpcoes(const teste::CasoDeTelas& caso) {
     corvalin::OpcoesBD opcoesBD;
     opcoesBD.setCasoBD(caso.bd);
@@ -74,142 +56,100 @@ corvalin::Opcoes leOpcoes(const teste::CasoDeTelas& caso) {
     return opcoes;
 }
 
-const struct teste::DialogoRoteirizado::Mensagem& ultima(const teste::CasoDeTelas& caso) {
-    return caso.host.dialogo.Mensagens().back();
-}
-
 }  // namespace
 
 class TesteFrmOpcoes : public QObject {
     Q_OBJECT
 
 private slots:
-    // A new case shows every row empty with nothing chosen; what is chosen, typed and checked is
-    // stored and shown again. With no station there is nothing to ask.
+    // A new case shows every row empty; what is chosen, typed and checked is stored and shown
+    // again. With no station there is nothing to ask; unchecking the folder box takes the folder.
     void gravaEMostraDeNovo() {
         teste::CasoDeTelas caso;
         {
             const Frm t(caso);
-            QCOMPARE(t.tela->windowTitle(), QStringLiteral("Opções para os Arquivos"));
-            QCOMPARE(t.abas().tabText(0), QStringLiteral("   &1 - Nomes Padrão   "));
-            QCOMPARE(t.abas().tabText(2), QStringLiteral("   &3 - Diversos   "));
-            QCOMPARE(t.abas().currentIndex(), 0);
-            QCOMPARE(itens(t.nome(4)), (QStringList{QStringLiteral("[Código do Posto]"),
-                                                    QStringLiteral("[Nome do Aproveitamento]")}));
-            const QStringList extensoes{QStringLiteral("dat"), QStringLiteral("txt")};
-            QCOMPARE(itens(t.extensao(0)), extensoes + QStringList{QStringLiteral("arq")});
-            QCOMPARE(itens(t.extensao(1)), extensoes);
-            QCOMPARE(itens(t.extensao(3)), extensoes + QStringList{QStringLiteral("prv")});
-            QCOMPARE(itens(t.extensao(4)), extensoes + QStringList{QStringLiteral("exc")});
-            QCOMPARE(t.exclusao(3).text(), QStringLiteral("Estatística das Previsões (Excel)"));
-            for (int i = 0; i < 5; ++i) {
-                QVERIFY(t.nome(i).currentText().isEmpty());
-                QCOMPARE(t.extensao(i).currentIndex(), -1);
-            }
+            QVERIFY(t.nome(4).currentText().isEmpty() && t.extensao(4).currentIndex() == -1);
             QVERIFY(!t.pasta().isEnabled());
-            QVERIFY(!t.botao(QStringLiteral("PastaPrevisoes")).isEnabled());
-            t.grava();
-            QVERIFY(caso.notificador->Eventos().empty());
-
             t.nome(0).setCurrentIndex(0);
             t.extensao(0).setCurrentIndex(2);
-            t.digita(2, QStringLiteral(" relat "), QStringLiteral("rel"));
+            t.digita(2, u" relat "_s, u"rel"_s);
             t.exclusao(3).click();
             t.chkPasta().click();
-            caso.host.dialogo.respondePasta(QStringLiteral("/tmp/prev"));
-            t.botao(QStringLiteral("PastaPrevisoes")).click();
-            QTest::keyClicks(&t.filtro(0), QStringLiteral(" *.dat "));
-            QTest::keyClicks(&t.descricao(0), QStringLiteral("Semanais"));
-            QTest::keyClicks(&t.filtro(1), QStringLiteral("*.arq"));
+            caso.host.dialogo.respondePasta(u"/tmp/prev"_s);
+            t.c<QPushButton>(u"BotPastaPrevisoes"_s).click();
+            QTest::keyClicks(&t.filtro(0), u" *.dat "_s);
+            QTest::keyClicks(&t.c<QLineEdit>(u"TxtFiltroDescricao"_s, 0), u"Semanais"_s);
             t.grava();
             QVERIFY(caso.host.dialogo.Mensagens().empty());
             QCOMPARE(caso.notificador->Eventos(), std::vector<std::int32_t>{3});
-            QVERIFY(t.tela->close());
         }
         const corvalin::Opcoes opcoes = leOpcoes(caso);
-        QCOMPARE(opcoes.Arquivos.ArquivoDadosGerais, QStringLiteral("[Código do Posto].arq"));
-        QCOMPARE(opcoes.Arquivos.ArquivoRelatorio, QStringLiteral("relat.rel"));
-        QVERIFY(opcoes.Arquivos.ArquivoVazoesSemanais.isEmpty());
-        QVERIFY(opcoes.Arquivos.ApagarArquivoExcel);
-        QVERIFY(!opcoes.Arquivos.ApagarArquivoRelatorio);
-        QCOMPARE(opcoes.PastaPrevisoes(), QDir::toNativeSeparators(QStringLiteral("/tmp/prev/")));
-        QCOMPARE(opcoes.Filtro(1), QStringLiteral("*.dat"));
-        QCOMPARE(opcoes.FiltroDescricao(1), QStringLiteral("Semanais"));
-        QCOMPARE(opcoes.Filtro(2), QStringLiteral("*.arq"));
+        QCOMPARE(opcoes.Arquivos.ArquivoDadosGerais, u"[Código do Posto].arq"_s);
+        QCOMPARE(opcoes.Arquivos.ArquivoRelatorio, u"relat.rel"_s);
+        QVERIFY(opcoes.Arquivos.ApagarArquivoExcel && !opcoes.Arquivos.ApagarArquivoRelatorio);
+        QCOMPARE(opcoes.PastaPrevisoes(), QDir::toNativeSeparators(u"/tmp/prev/"_s));
+        QCOMPARE(opcoes.Filtro(1) + opcoes.FiltroDescricao(1), u"*.datSemanais"_s);
 
         const Frm t(caso);
         QCOMPARE(t.nome(0).currentIndex(), 0);
-        QCOMPARE(t.extensao(0).currentText(), QStringLiteral("arq"));
-        QCOMPARE(t.nome(2).currentText(), QStringLiteral("relat"));
-        QVERIFY(t.exclusao(3).isChecked());
-        QVERIFY(!t.exclusao(2).isChecked());
-        QVERIFY(t.chkPasta().isChecked());
-        QVERIFY(t.pasta().isEnabled());
-        QCOMPARE(t.filtro(1).text(), QStringLiteral("*.arq"));
-
-        // Unchecking the box takes the folder away.
+        QCOMPARE(t.extensao(0).currentText() + t.nome(2).currentText(), u"arqrelat"_s);
+        QVERIFY(t.exclusao(3).isChecked() && !t.exclusao(2).isChecked());
+        QVERIFY(t.chkPasta().isChecked() && t.pasta().isEnabled());
+        QCOMPARE(t.filtro(0).text(), u"*.dat"_s);
         t.chkPasta().click();
-        QVERIFY(t.pasta().text().isEmpty());
-        QVERIFY(!t.pasta().isEnabled());
+        QVERIFY(t.pasta().text().isEmpty() && !t.pasta().isEnabled());
         t.grava();
         QVERIFY(leOpcoes(caso).PastaPrevisoes().isEmpty());
     }
 
     // The first problem is shown on its tab with the focus on its field, and nothing is stored;
-    // the template words pass whatever their length.
+    // the template words pass whatever their length. Yes at the prompt runs the same checks.
     void recusas() {
         teste::CasoDeTelas caso;
         const Frm t(caso);
         t.tela->show();
         QVERIFY(QTest::qWaitForWindowActive(t.tela.get()));
-        const QString nomeInvalido = QStringLiteral(
-            "Nome de arquivo inválido.\r\nCertifique-se que o tamanho do nome do arquivo não exceda 8 "
-            "caracteres, "
-            "a extensão não exceda 3 caracteres, e não contenha caracteres especiais.");
-        const QString extensaoInvalida = QStringLiteral(
-            "Extensão de arquivo inválida.\r\nCertifique-se que o tamanho da extensão não exceda 3 "
-            "caracteres, e não "
-            "contenha caracteres especiais.");
-        QTest::keyClicks(&t.descricao(1), QStringLiteral("Sem filtro"));
-        t.digita(3, QStringLiteral("abc"), {});
-        t.digita(1, QStringLiteral("abcdefghi"), QStringLiteral("dat"));
-        t.digita(4, QStringLiteral("[Nome do Aproveitamento]"), QStringLiteral("exc"));
+        QTest::keyClicks(&t.c<QLineEdit>(u"TxtFiltroDescricao"_s, 1), u"Sem filtro"_s);
+        t.digita(3, u"abc"_s, {});
+        t.digita(1, u"abcdefghi"_s, u"dat"_s);
+        t.digita(4, u"[Nome do Aproveitamento]"_s, u"exc"_s);
         t.abas().setCurrentIndex(1);
-        t.grava();
-        QCOMPARE(ultima(caso).texto, nomeInvalido);
-        QCOMPARE(ultima(caso).titulo, QStringLiteral("Informação"));
-        QCOMPARE(ultima(caso).icone, halvo::Icone::Informacao);
-        QCOMPARE(t.abas().currentIndex(), 0);
-        QVERIFY(t.nome(1).hasFocus());
-
-        t.digita(1, QStringLiteral("abcdefgh"), QStringLiteral("dat"));
-        t.grava();
-        QCOMPARE(ultima(caso).texto, extensaoInvalida);
-        QVERIFY(t.extensao(3).hasFocus());
-
+        const auto recusa = [&](const QString& texto, int aba, const QWidget& foco) {
+            t.grava();
+            const auto& ultima = caso.host.dialogo.Mensagens().back();
+            QCOMPARE(ultima.texto, texto);
+            QCOMPARE(ultima.titulo, u"Informação"_s);
+            QCOMPARE(ultima.icone, halvo::Icone::Informacao);
+            QCOMPARE(t.abas().currentIndex(), aba);
+            QVERIFY(foco.hasFocus());
+        };
+        recusa(QStringLiteral(
+                   "Nome de arquivo inválido.\r\nCertifique-se que o tamanho do nome do arquivo não exceda "
+                   "8 caracteres, a extensão não exceda 3 caracteres, e não contenha caracteres especiais."),
+               0, t.nome(1));
+        t.digita(1, u"abcdefgh"_s, u"dat"_s);
+        recusa(QStringLiteral(
+                   "Extensão de arquivo inválida.\r\nCertifique-se que o tamanho da extensão não exceda 3 "
+                   "caracteres, e não contenha caracteres especiais."),
+               0, t.extensao(3));
         t.digita(3, {}, {});
-        t.grava();
-        QCOMPARE(ultima(caso).texto, QStringLiteral("Filtro não definido. Digite por exemplo: *.dat"));
-        QCOMPARE(t.abas().currentIndex(), 2);
-        QVERIFY(t.filtro(1).hasFocus());
+        recusa(u"Filtro não definido. Digite por exemplo: *.dat"_s, 2, t.filtro(1));
         QVERIFY(leOpcoes(caso).Arquivos.Vazio());
-
-        // Yes at the prompt runs the same checks, and a refusal keeps the window open.
         caso.host.dialogo.responde(Resposta::Sim);
         QVERIFY(!t.tela->close());
         QCOMPARE(caso.host.dialogo.Mensagens().size(), std::size_t{5});
-        QTest::keyClicks(&t.filtro(1), QStringLiteral("*"));
+        QTest::keyClicks(&t.filtro(1), u"*"_s);
         t.grava();
-        QCOMPARE(leOpcoes(caso).Arquivos.ArquivoExcel, QStringLiteral("[Nome do Aproveitamento].exc"));
+        QCOMPARE(leOpcoes(caso).Arquivos.ArquivoExcel, u"[Nome do Aproveitamento].exc"_s);
     }
 
     // New names or erase choices are offered to the stations of the case; the answer decides.
     // A change of folder or filter only asks nothing.
     void propagacaoAosPostos() {
         teste::CasoDeTelas caso;
-        caso.adiciona(10, QStringLiteral("Alfa"));
-        caso.adiciona(20, QStringLiteral("Bravo"));
-        const auto arquivoDadosGerais = [&](int codigo) {
+        caso.adiciona(10, u"Alfa"_s);
+        caso.adiciona(20, u"Bravo"_s);
+        const auto arquivo = [&](int codigo) {
             corvalin::Posto posto;
             caso.postoBD->getPosto(posto, corvalin::BuscaPorCodigo, codigo, {});
             return posto.Arquivos.ArquivoDadosGerais;
@@ -219,55 +159,44 @@ private slots:
         t.extensao(0).setCurrentIndex(2);
         caso.host.dialogo.responde(Resposta::Nao);
         t.grava();
-        QCOMPARE(ultima(caso).texto,
-                 QStringLiteral("Deseja alterar os Dados Gerais dos Postos já cadastrados?"));
-        QCOMPARE(ultima(caso).titulo, QStringLiteral("Confirmação"));
-        QCOMPARE(ultima(caso).botoes, halvo::Botoes::SimNao);
-        QCOMPARE(arquivoDadosGerais(10), QStringLiteral("10.arq"));
-
-        QTest::keyClicks(&t.filtro(0), QStringLiteral("*.dat"));
+        QCOMPARE(caso.host.dialogo.Mensagens().back().texto,
+                 u"Deseja alterar os Dados Gerais dos Postos já cadastrados?"_s);
+        QCOMPARE(caso.host.dialogo.Mensagens().back().botoes, halvo::Botoes::SimNao);
+        QCOMPARE(arquivo(10), u"10.arq"_s);
+        QTest::keyClicks(&t.filtro(0), u"*.dat"_s);
         t.grava();
         QCOMPARE(caso.host.dialogo.Mensagens().size(), std::size_t{1});
-
         t.exclusao(0).click();
         t.grava();
         QCOMPARE(caso.host.dialogo.Mensagens().size(), std::size_t{2});
-        QCOMPARE(arquivoDadosGerais(10), QStringLiteral("Alfa.arq"));
-        QCOMPARE(arquivoDadosGerais(20), QStringLiteral("Bravo.arq"));
+        QCOMPARE(arquivo(10) + arquivo(20), u"Alfa.arqBravo.arq"_s);
     }
 
-    // Enter walks every field of the three tabs and the tab follows; the folder box opens the
-    // folder dialog on F2 and on a double click. A read-only case writes nothing and asks nothing.
+    // Enter goes on to the next tab's first field, and from the last button back to the first
+    // tab; F2 and a double click open the folder dialog. A read-only case writes and asks nothing.
     void tecladoESomenteLeitura() {
         teste::CasoDeTelas caso(true);
         const Frm t(caso);
         t.tela->show();
         QVERIFY(QTest::qWaitForWindowActive(t.tela.get()));
-        QVERIFY(!t.botao(QStringLiteral("Grava")).isEnabled());
-        t.extensao(4).setFocus();
-        const auto enter = [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return); };
-        enter();
-        QCOMPARE(t.abas().currentIndex(), 1);
-        QVERIFY(t.exclusao(0).hasFocus());
-        t.exclusao(3).setFocus();
-        enter();
-        QCOMPARE(t.abas().currentIndex(), 2);
-        QVERIFY(t.filtro(0).hasFocus());
-        t.chkPasta().setFocus();
-        enter();
-        QVERIFY(t.botao(QStringLiteral("Sair")).hasFocus());
-        enter();
-        QCOMPARE(t.abas().currentIndex(), 0);
-        QVERIFY(t.nome(0).hasFocus());
+        QVERIFY(!t.c<QPushButton>(u"BotGrava"_s).isEnabled());
+        const auto enter = [](QWidget& de) {
+            de.setFocus();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        };
+        enter(t.extensao(4));
+        QVERIFY(t.abas().currentIndex() == 1 && t.exclusao(0).hasFocus());
+        enter(t.c<QPushButton>(u"BotSair"_s));
+        QVERIFY(t.abas().currentIndex() == 0 && t.nome(0).hasFocus());
 
         t.chkPasta().click();
-        caso.host.dialogo.respondePasta(QStringLiteral("/um"));
+        caso.host.dialogo.respondePasta(u"/um"_s);
         QTest::keyClick(&t.pasta(), Qt::Key_F2);
-        QCOMPARE(t.pasta().text(), QStringLiteral("/um"));
-        caso.host.dialogo.respondePasta(QStringLiteral("/dois"));
+        QCOMPARE(t.pasta().text(), u"/um"_s);
+        caso.host.dialogo.respondePasta(u"/dois"_s);
         QTest::mouseDClick(&t.pasta(), Qt::LeftButton);
-        QCOMPARE(t.pasta().text(), QStringLiteral("/dois"));
-        t.digita(0, QStringLiteral("x"), QStringLiteral("y"));
+        QCOMPARE(t.pasta().text(), u"/dois"_s);
+        t.digita(0, u"x"_s, u"y"_s);
         QVERIFY(t.tela->close());
         QVERIFY(caso.host.dialogo.Mensagens().empty());
     }
