@@ -6,6 +6,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using recordstore::Recordset;
@@ -17,10 +19,9 @@ private slots:
     void init();
     void cleanup();
 
-    void listaNaOrdemDoIndiceSemMoverATabela();
+    void listaNaOrdemDoIndiceRelidaACadaAberturaSemMoverATabela();
     void escolhaPeloTecladoEPeloMouseDaOMarcador();
     void digitarAvisaMudancaESoIsso();
-    void releALista();
     void somenteListaETamanhoMaximo();
     void tabelaFechadaEAvisadaEDeixaListaVazia();
 
@@ -37,24 +38,23 @@ private:
 
 void TesteCombo::init() {
     mHost = std::make_unique<teste::HostTeste>();
-    mBanco = recordstore::Database::CreateDatabase(mHost->caminho(QStringLiteral("Corvalin.mdb")));
+    mBanco = recordstore::Database::CreateDatabase(mHost->caminho(u"Corvalin.mdb"_s));
     using recordstore::Tipo;
     mBanco->Append(
-        {QStringLiteral("Postos"),
-         {recordstore::CreateField(QStringLiteral("Codigo"), Tipo::Long),
-          recordstore::CreateField(QStringLiteral("NomeDoAproveitamento"), Tipo::Texto, 60)},
-         {{QStringLiteral("Codigo"), true, QStringLiteral("Codigo")},
-          {QStringLiteral("NomeDoAproveitamento"), false, QStringLiteral("NomeDoAproveitamento")}}});
-    mPostos = mBanco->OpenRecordset(QStringLiteral("Postos"));
-    adiciona(30, QStringLiteral("Sobradinho"));
-    adiciona(10, QStringLiteral("Furnas"));
-    adiciona(20, QStringLiteral("Itaipu"));
-    adiciona(40, QStringLiteral("Água Vermelha"));
+        {u"Postos"_s,
+         {recordstore::CreateField(u"Codigo"_s, Tipo::Long),
+          recordstore::CreateField(u"NomeDoAproveitamento"_s, Tipo::Texto, 60)},
+         {{u"Codigo"_s, true, u"Codigo"_s}, {u"NomeDoAproveitamento"_s, false, u"NomeDoAproveitamento"_s}}});
+    mPostos = mBanco->OpenRecordset(u"Postos"_s);
+    for (const auto& [codigo, nome] :
+         {std::pair{30, u"Sobradinho"_s}, {10, u"Furnas"_s}, {20, u"Itaipu"_s}, {40, u"Água Vermelha"_s}}) {
+        adiciona(codigo, nome);
+    }
 
     mCombo = std::make_unique<halvo::Combo>();
     mCombo->setTabela(*mPostos);
-    mCombo->setCampo(QStringLiteral("NomeDoAproveitamento"));
-    mCombo->setIndice(QStringLiteral("NomeDoAproveitamento"));
+    mCombo->setCampo(u"NomeDoAproveitamento"_s);
+    mCombo->setIndice(u"NomeDoAproveitamento"_s);
     mCombo->show();
     mCombo->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(mCombo.get()));
@@ -69,15 +69,15 @@ void TesteCombo::cleanup() {
 
 void TesteCombo::adiciona(int codigo, const QString& nome) {
     mPostos->AddNew();
-    mPostos->setCampo(QStringLiteral("Codigo"), codigo);
-    mPostos->setCampo(QStringLiteral("NomeDoAproveitamento"), nome);
+    mPostos->setCampo(u"Codigo"_s, codigo);
+    mPostos->setCampo(u"NomeDoAproveitamento"_s, nome);
     mPostos->Update();
 }
 
 recordstore::Bookmark TesteCombo::marcadorDe(const QString& nome) {
     const auto busca = mPostos->Clone();
-    busca->setIndex(QStringLiteral("NomeDoAproveitamento"));
-    busca->Seek(QStringLiteral("="), {nome});
+    busca->setIndex(u"NomeDoAproveitamento"_s);
+    busca->Seek(u"="_s, {nome});
     return busca->Bookmark();
 }
 
@@ -89,34 +89,38 @@ QStringList TesteCombo::itens() const {
     return nomes;
 }
 
-void TesteCombo::listaNaOrdemDoIndiceSemMoverATabela() {
-    mPostos->setIndex(QStringLiteral("Codigo"));
-    mPostos->Seek(QStringLiteral("="), {20});
+void TesteCombo::listaNaOrdemDoIndiceRelidaACadaAberturaSemMoverATabela() {
+    mPostos->setIndex(u"Codigo"_s);
+    mPostos->Seek(u"="_s, {20});
     const recordstore::Bookmark antes = mPostos->Bookmark();
 
     mCombo->showPopup();
-    QCOMPARE(itens(), (QStringList{QStringLiteral("Água Vermelha"), QStringLiteral("Furnas"),
-                                   QStringLiteral("Itaipu"), QStringLiteral("Sobradinho")}));
+    QCOMPARE(itens(), (QStringList{u"Água Vermelha"_s, u"Furnas"_s, u"Itaipu"_s, u"Sobradinho"_s}));
     mCombo->hidePopup();
-    QCOMPARE(mPostos->Index(), QStringLiteral("Codigo"));
+    QCOMPARE(mPostos->Index(), u"Codigo"_s);
     QCOMPARE(mPostos->Bookmark(), antes);
+
+    adiciona(50, u"Barra Bonita"_s);
+    mCombo->showPopup();
+    QCOMPARE(itens().at(1), u"Barra Bonita"_s);
+    mCombo->hidePopup();
 }
 
 void TesteCombo::escolhaPeloTecladoEPeloMouseDaOMarcador() {
     QSignalSpy escolhas(mCombo.get(), &halvo::Combo::Selecionado);
     QSignalSpy mudancas(mCombo.get(), &halvo::Combo::Alterado);
-    mCombo->setTexto(QStringLiteral("furnas"));
-    QCOMPARE(mCombo->Texto(), QStringLiteral("furnas"));
+    mCombo->setTexto(u"furnas"_s);
+    QCOMPARE(mCombo->Texto(), u"furnas"_s);
     QCOMPARE(escolhas.count(), 0);
 
     mCombo->setFocus();
     QTest::keyClick(mCombo.get(), Qt::Key_Down);
     QCOMPARE(escolhas.count(), 1);
     const auto marcador = escolhas.takeFirst().at(0).value<recordstore::Bookmark>();
-    QCOMPARE(marcador, marcadorDe(QStringLiteral("Itaipu")));
+    QCOMPARE(marcador, marcadorDe(u"Itaipu"_s));
     mPostos->setBookmark(marcador);
-    QCOMPARE(mPostos->campo(QStringLiteral("Codigo")).paraInteiro(), 20);
-    QCOMPARE(mCombo->Texto(), QStringLiteral("Itaipu"));
+    QCOMPARE(mPostos->campo(u"Codigo"_s).paraInteiro(), 20);
+    QCOMPARE(mCombo->Texto(), u"Itaipu"_s);
 
     mCombo->showPopup();
     QAbstractItemView* lista = mCombo->view();
@@ -124,8 +128,7 @@ void TesteCombo::escolhaPeloTecladoEPeloMouseDaOMarcador() {
     const QRect item = lista->visualRect(lista->model()->index(3, 0));
     QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, item.center());
     QTRY_COMPARE(escolhas.count(), 1);
-    QCOMPARE(escolhas.takeFirst().at(0).value<recordstore::Bookmark>(),
-             marcadorDe(QStringLiteral("Sobradinho")));
+    QCOMPARE(escolhas.takeFirst().at(0).value<recordstore::Bookmark>(), marcadorDe(u"Sobradinho"_s));
     QCOMPARE(mudancas.count(), 0);
 }
 
@@ -134,66 +137,55 @@ void TesteCombo::digitarAvisaMudancaESoIsso() {
     QSignalSpy mudancas(mCombo.get(), &halvo::Combo::Alterado);
     mCombo->setFocus();
     mCombo->lineEdit()->clear();
-    QTest::keyClicks(mCombo->lineEdit(), QStringLiteral("Itaipu"));
+    QTest::keyClicks(mCombo->lineEdit(), u"Itaipu"_s);
     QCOMPARE(mudancas.count(), 6);
-    QCOMPARE(mudancas.last().at(0).toString(), QStringLiteral("Itaipu"));
+    QCOMPARE(mudancas.last().at(0).toString(), u"Itaipu"_s);
     // A typed name that is on the list is still just typed, when Enter ends it or the focus leaves.
     QTest::keyClick(mCombo->lineEdit(), Qt::Key_Return);
     mCombo->clearFocus();
     QCOMPARE(escolhas.count(), 0);
-    QCOMPARE(mCombo->Texto(), QStringLiteral("Itaipu"));
+    QCOMPARE(mCombo->Texto(), u"Itaipu"_s);
 
-    mCombo->setTexto(QStringLiteral("Novo posto"));
-    QCOMPARE(mCombo->Texto(), QStringLiteral("Novo posto"));
+    mCombo->setTexto(u"Novo posto"_s);
+    QCOMPARE(mCombo->Texto(), u"Novo posto"_s);
     QCOMPARE(mudancas.count(), 6);
-}
-
-void TesteCombo::releALista() {
-    mCombo->showPopup();
-    mCombo->hidePopup();
-    QCOMPARE(mCombo->count(), 4);
-    adiciona(50, QStringLiteral("Barra Bonita"));
-    mCombo->showPopup();
-    QCOMPARE(mCombo->count(), 5);
-    QCOMPARE(mCombo->itemText(1), QStringLiteral("Barra Bonita"));
-    mCombo->hidePopup();
 }
 
 void TesteCombo::somenteListaETamanhoMaximo() {
     mCombo->setTamanhoMaximo(10);
     mCombo->setFocus();
-    QTest::keyClicks(mCombo->lineEdit(), QStringLiteral("Um nome longo demais"));
+    QTest::keyClicks(mCombo->lineEdit(), u"Um nome longo demais"_s);
     QCOMPARE(mCombo->Texto().size(), 10);
 
     mCombo->setSomenteLista(true);
     QVERIFY(mCombo->lineEdit() == nullptr);
     QCOMPARE(mCombo->Texto(), QString());
     // A name that the list did not hold yet is looked for again.
-    adiciona(60, QStringLiteral("Tucuruí"));
-    mCombo->setTexto(QStringLiteral("Tucuruí"));
-    QCOMPARE(mCombo->Texto(), QStringLiteral("Tucuruí"));
+    adiciona(60, u"Tucuruí"_s);
+    mCombo->setTexto(u"Tucuruí"_s);
+    QCOMPARE(mCombo->Texto(), u"Tucuruí"_s);
 
     QSignalSpy escolhas(mCombo.get(), &halvo::Combo::Selecionado);
-    QTest::keyClicks(mCombo.get(), QStringLiteral("F"));
-    QCOMPARE(mCombo->Texto(), QStringLiteral("Furnas"));
+    QTest::keyClicks(mCombo.get(), u"F"_s);
+    QCOMPARE(mCombo->Texto(), u"Furnas"_s);
     QCOMPARE(escolhas.count(), 1);
-    QCOMPARE(escolhas.at(0).at(0).value<recordstore::Bookmark>(), marcadorDe(QStringLiteral("Furnas")));
+    QCOMPARE(escolhas.at(0).at(0).value<recordstore::Bookmark>(), marcadorDe(u"Furnas"_s));
 
     mCombo->setSomenteLista(false);
-    QCOMPARE(mCombo->Texto(), QStringLiteral("Furnas"));
-    QTest::keyClicks(mCombo->lineEdit(), QStringLiteral("xxxxxxxxxx"));
+    QCOMPARE(mCombo->Texto(), u"Furnas"_s);
+    QTest::keyClicks(mCombo->lineEdit(), u"xxxxxxxxxx"_s);
     QCOMPARE(mCombo->Texto().size(), 10);
 }
 
 void TesteCombo::tabelaFechadaEAvisadaEDeixaListaVazia() {
-    mCombo->setTexto(QStringLiteral("Furnas"));
+    mCombo->setTexto(u"Furnas"_s);
     mBanco->Close();
     mCombo->showPopup();
     mCombo->hidePopup();
     QCOMPARE(mCombo->count(), 0);
     QCOMPARE(mHost->dialogo.Mensagens().size(), 1u);
     QCOMPARE(mHost->dialogo.Mensagens()[0].icone, halvo::Icone::Erro);
-    QCOMPARE(mCombo->Texto(), QStringLiteral("Furnas"));
+    QCOMPARE(mCombo->Texto(), u"Furnas"_s);
 }
 
 }  // namespace

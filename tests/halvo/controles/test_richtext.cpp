@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QTextBlock>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class TesteRichText : public QObject {
@@ -17,35 +19,32 @@ private slots:
     void arquivoComoEstaSemQuebra();
 };
 
-// The format of the first piece of text in a block.
-QTextCharFormat formatoDe(const QTextBlock& bloco) {
-    return bloco.begin().fragment().charFormat();
-}
-
 void TesteRichText::estilosDasLinhas() {
     halvo::RichText texto;
-    texto.AdicionaLinha(QStringLiteral("Posto 1 - Furnas"), halvo::RichText::Normal, true, true);
-    texto.AdicionaLinha(QStringLiteral("Erro: "), halvo::RichText::Erro, false, false);
-    texto.AdicionaLinha(QStringLiteral("ano inicial inválido."), halvo::RichText::Erro, false, true);
-    texto.AdicionaLinha(QStringLiteral("Aviso: série curta."), halvo::RichText::Aviso, true, true);
-    QCOMPARE(texto.Texto(),
-             QStringLiteral("Posto 1 - Furnas\nErro: ano inicial inválido.\nAviso: série curta.\n"));
+    texto.AdicionaLinha(u"Posto 1 - Furnas"_s, halvo::RichText::Normal, true, true);
+    texto.AdicionaLinha(u"Erro: "_s, halvo::RichText::Erro, false, false);
+    texto.AdicionaLinha(u"ano inicial inválido."_s, halvo::RichText::Erro, false, true);
+    texto.AdicionaLinha(u"Aviso: série curta."_s, halvo::RichText::Aviso, true, true);
+    QCOMPARE(texto.Texto(), u"Posto 1 - Furnas\nErro: ano inicial inválido.\nAviso: série curta.\n"_s);
 
-    const QTextDocument& documento = *texto.document();
-    QCOMPARE(formatoDe(documento.findBlockByNumber(0)).foreground().color(), QColor(Qt::black));
-    QCOMPARE(formatoDe(documento.findBlockByNumber(0)).fontWeight(), int(QFont::Bold));
-    QCOMPARE(formatoDe(documento.findBlockByNumber(1)).foreground().color(), QColor(Qt::red));
-    QCOMPARE(formatoDe(documento.findBlockByNumber(1)).fontWeight(), int(QFont::Normal));
-    QCOMPARE(formatoDe(documento.findBlockByNumber(2)).foreground().color(), QColor(Qt::blue));
-
+    // The colour and weight of the first piece of each line.
+    const struct {
+        QColor cor;
+        int peso;
+    } linhas[]{{Qt::black, QFont::Bold}, {Qt::red, QFont::Normal}, {Qt::blue, QFont::Bold}};
+    for (int i = 0; i < 3; ++i) {
+        const QTextCharFormat formato =
+            texto.document()->findBlockByNumber(i).begin().fragment().charFormat();
+        QCOMPARE(formato.foreground().color(), linhas[i].cor);
+        QCOMPARE(formato.fontWeight(), linhas[i].peso);
+    }
     texto.Limpa();
     QCOMPARE(texto.Texto(), QString());
 }
 
 void TesteRichText::arquivoComoEstaSemQuebra() {
     QTemporaryDir pasta;
-    const QString caminho = pasta.filePath(QStringLiteral("Relat.txt"));
-    QFile arquivo(caminho);
+    QFile arquivo(pasta.filePath(u"Relat.txt"_s));
     QVERIFY(arquivo.open(QIODevice::WriteOnly));
     const QByteArray longa(400, '-');
     arquivo.write(
@@ -58,16 +57,14 @@ void TesteRichText::arquivoComoEstaSemQuebra() {
     texto.resize(200, 100);
     texto.show();
     QVERIFY(QTest::qWaitForWindowExposed(&texto));
-    texto.AdicionaLinha(QStringLiteral("antes"), halvo::RichText::Erro, false, true);
-    texto.CarregaArquivo(caminho);
-    QCOMPARE(texto.Texto(), QStringLiteral("Vazões semanais\n") + QString::fromLatin1(longa) +
-                                QStringLiteral("\nfim\nsem LF"));
+    texto.AdicionaLinha(u"antes"_s, halvo::RichText::Erro, false, true);
+    texto.CarregaArquivo(arquivo.fileName());
+    QCOMPARE(texto.Texto(), u"Vazões semanais\n"_s + QString::fromLatin1(longa) + u"\nfim\nsem LF"_s);
     QCOMPARE(texto.document()->findBlockByNumber(1).layout()->lineCount(), 1);
     QVERIFY(texto.horizontalScrollBar()->maximum() > 0);
     QVERIFY(texto.isReadOnly());
-
     try {
-        texto.CarregaArquivo(pasta.filePath(QStringLiteral("nada.txt")));
+        texto.CarregaArquivo(pasta.filePath(u"nada.txt"_s));
         QFAIL("a missing file is an error");
     } catch (const plataforma::ErroVB& erro) {
         QCOMPARE(erro.Number(), 53);

@@ -2,11 +2,12 @@
 #include "halvo/sdk/UtilitariosArquivo.h"
 #include "halvo/sdk/UtilitariosSistema.h"
 #include "tests/doubles/HostTeste.h"
+#include "tests/platform/runtime/Casos.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <gtest/gtest.h>
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,54 +33,52 @@ TEST(NomesCurtos, SoAceitaOitoPontoTres) {
           "a*b.dat", "a?.dat", "a/b.dat", "a.d t", "[Código do Posto].dat"}) {
         EXPECT_FALSE(arquivos.NomeArquivoValido(QString::fromUtf8(invalido))) << invalido;
     }
-    EXPECT_TRUE(arquivos.NomeValido(QStringLiteral("12345678")));
-    EXPECT_FALSE(arquivos.NomeValido(QStringLiteral("123456789")));
-    EXPECT_FALSE(arquivos.NomeValido(QString()));
-    EXPECT_TRUE(arquivos.ExtensaoValida(QStringLiteral("prv")));
-    EXPECT_FALSE(arquivos.ExtensaoValida(QStringLiteral("prvx")));
-    EXPECT_FALSE(arquivos.ExtensaoValida(QString()));
+    confere<bool>(
+        {CASO(arquivos.NomeValido(u"12345678"_s), true), CASO(arquivos.NomeValido(u"123456789"_s), false),
+         CASO(arquivos.NomeValido({}), false), CASO(arquivos.ExtensaoValida(u"prv"_s), true),
+         CASO(arquivos.ExtensaoValida(u"prvx"_s), false), CASO(arquivos.ExtensaoValida({}), false)});
 }
 
 TEST(Caminhos, SeparaPastaENome) {
-    EXPECT_EQ(arquivos.SeparaCaminho(QStringLiteral("/casos/c1/1234/Caso.dat"), true), QStringLiteral("/casos/c1/1234/"));
-    EXPECT_EQ(arquivos.SeparaCaminho(QStringLiteral("/casos/c1/1234/Caso.dat"), false), QStringLiteral("/casos/c1/1234"));
-    EXPECT_EQ(arquivos.SeparaCaminho(QStringLiteral("Caso.dat"), true), QString());
-    EXPECT_EQ(arquivos.NomeDoArquivo(QStringLiteral("/casos/c1/1234.arq")), QStringLiteral("1234.arq"));
-    EXPECT_EQ(arquivos.NomeDoArquivo(QStringLiteral("1234.arq")), QStringLiteral("1234.arq"));
+    confere<QString>({CASO(arquivos.SeparaCaminho(u"/casos/c1/1234/Caso.dat"_s, true), u"/casos/c1/1234/"_s),
+                      CASO(arquivos.SeparaCaminho(u"/casos/c1/1234/Caso.dat"_s, false), u"/casos/c1/1234"_s),
+                      CASO(arquivos.SeparaCaminho(u"Caso.dat"_s, true), QString()),
+                      CASO(arquivos.NomeDoArquivo(u"/casos/c1/1234.arq"_s), u"1234.arq"_s),
+                      CASO(arquivos.NomeDoArquivo(u"1234.arq"_s), u"1234.arq"_s)});
 }
 
 TEST(Arquivos, CopiaRespeitaSobrescreverEApagaPastaInteira) {
     QTemporaryDir dir;
-    const QString a = dir.filePath(QStringLiteral("a.txt"));
-    const QString b = dir.filePath(QStringLiteral("b.txt"));
+    const QString a = dir.filePath(u"a.txt"_s);
+    const QString b = dir.filePath(u"b.txt"_s);
     escreve(a, "novo");
     escreve(b, "velho");
     EXPECT_FALSE(arquivos.CopiaArquivo(a, b, false));
     EXPECT_EQ(le(b), "velho");
     EXPECT_TRUE(arquivos.CopiaArquivo(a, b, true));
     EXPECT_EQ(le(b), "novo");
-    EXPECT_FALSE(arquivos.CopiaArquivo(dir.filePath(QStringLiteral("falta.txt")), b, true));
+    EXPECT_FALSE(arquivos.CopiaArquivo(dir.filePath(u"falta.txt"_s), b, true));
 
-    const QString pasta = dir.filePath(QStringLiteral("p/q"));
+    const QString pasta = dir.filePath(u"p/q"_s);
     EXPECT_TRUE(arquivos.CriaPasta(pasta));
     EXPECT_TRUE(arquivos.PastaVazia(pasta));
-    escreve(pasta + QStringLiteral("/.oculto"), "x");
+    escreve(pasta + u"/.oculto"_s, "x");
     EXPECT_FALSE(arquivos.PastaVazia(pasta)) << "a hidden file makes a folder not empty";
-    EXPECT_TRUE(arquivos.ApagaPasta(dir.filePath(QStringLiteral("p")), true));
+    EXPECT_TRUE(arquivos.ApagaPasta(dir.filePath(u"p"_s), true));
     EXPECT_FALSE(arquivos.PastaExiste(pasta));
-    EXPECT_FALSE(arquivos.ApagaPasta(dir.filePath(QStringLiteral("p")), true)) << "a missing folder is a failure";
+    EXPECT_FALSE(arquivos.ApagaPasta(dir.filePath(u"p"_s), true)) << "a missing folder is a failure";
     EXPECT_FALSE(arquivos.ArquivoExiste(dir.path())) << "a folder is not a file";
 }
 
 TEST(Processos, ExecutaNoShellNaPastaCorrenteEEspera) {
     QTemporaryDir dir;
-    escreve(dir.filePath(QStringLiteral("Executa.bat")), "sleep 0.2\necho feito > saida.txt\nexit 3\n");
+    escreve(dir.filePath(u"Executa.bat"_s), "sleep 0.2\necho feito > saida.txt\nexit 3\n");
     const QString anterior = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(dir.path()));
-    const int codigo = halvo::ExecutaNoShell(dir.filePath(QStringLiteral("Executa.bat")));
+    const int codigo = halvo::ExecutaNoShell(dir.filePath(u"Executa.bat"_s));
     QDir::setCurrent(anterior);
     EXPECT_EQ(codigo, 3);
-    EXPECT_EQ(le(dir.filePath(QStringLiteral("saida.txt"))), "feito\n") << "ran in the current folder, and waited";
+    EXPECT_EQ(le(dir.filePath(u"saida.txt"_s)), "feito\n") << "ran in the current folder, and waited";
 }
 
 TEST(Servicos, InstalacaoValeSoNoEscopo) {
@@ -88,8 +87,9 @@ TEST(Servicos, InstalacaoValeSoNoEscopo) {
         teste::HostTeste host;
         EXPECT_EQ(&halvo::Servicos::dialogo(), &host.dialogo);
         EXPECT_EQ(&halvo::Servicos::sistema(), &host.sistema);
-        halvo::UtilitariosArquivo().SelecionaArquivo(QStringLiteral("*.*|*.*"), {}, {});
-        ASSERT_EQ(host.dialogo.FiltrosPedidos().size(), 1u) << "the file utility asks through the dialog service";
+        halvo::UtilitariosArquivo().SelecionaArquivo(u"*.*|*.*"_s, {}, {});
+        ASSERT_EQ(host.dialogo.FiltrosPedidos().size(), 1u)
+            << "the file utility asks through the dialog service";
     }
     EXPECT_EQ(&halvo::Servicos::dialogo(), padrao);
 }
