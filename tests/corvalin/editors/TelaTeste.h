@@ -14,6 +14,8 @@
 
 namespace teste {
 
+using Nomes = std::initializer_list<const char*>;
+
 inline void clica(const QWidget& tela, const QString& nome) {
     controle<QAbstractButton>(tela, nome).click();
 }
@@ -53,7 +55,7 @@ inline QString valor(const QWidget& tela, const QString& nome) {
     return botao.isCheckable() ? (botao.isChecked() ? QStringLiteral("x") : QString()) : botao.text();
 }
 
-inline QStringList valores(const QWidget& tela, std::initializer_list<const char*> nomes) {
+inline QStringList valores(const QWidget& tela, Nomes nomes) {
     QStringList textos;
     for (const char* nome : nomes) {
         textos << valor(tela, QString::fromLatin1(nome));
@@ -61,26 +63,24 @@ inline QStringList valores(const QWidget& tela, std::initializer_list<const char
     return textos;
 }
 
-// The names among nomes whose controls are enabled.
-inline QStringList habilitados(const QWidget& tela, std::initializer_list<const char*> nomes) {
-    QStringList abertos;
+// The names among nomes whose controls pass the test.
+template <class Teste>
+QStringList filtra(const QWidget& tela, Nomes nomes, Teste teste) {
+    QStringList passam;
     for (const char* nome : nomes) {
-        if (controle<QWidget>(tela, QString::fromLatin1(nome)).isEnabled()) {
-            abertos << QString::fromLatin1(nome);
+        if (teste(controle<QWidget>(tela, QString::fromLatin1(nome)))) {
+            passam << QString::fromLatin1(nome);
         }
     }
-    return abertos;
+    return passam;
 }
 
-// The names among nomes whose controls the screen shows.
-inline QStringList visiveis(const QWidget& tela, std::initializer_list<const char*> nomes) {
-    QStringList vistos;
-    for (const char* nome : nomes) {
-        if (controle<QWidget>(tela, QString::fromLatin1(nome)).isVisibleTo(&tela)) {
-            vistos << QString::fromLatin1(nome);
-        }
-    }
-    return vistos;
+inline QStringList habilitados(const QWidget& tela, Nomes nomes) {
+    return filtra(tela, nomes, [](const QWidget& w) { return w.isEnabled(); });
+}
+
+inline QStringList visiveis(const QWidget& tela, Nomes nomes) {
+    return filtra(tela, nomes, [&tela](const QWidget& w) { return w.isVisibleTo(&tela); });
 }
 
 // The messages shown, as "title|text", and forgets them.

@@ -11,15 +11,17 @@
 #include <QListWidget>
 #include <QTextBlock>
 
+using namespace Qt::StringLiterals;
 using teste::clica;
 using teste::controle;
+using teste::habilitados;
 using teste::valor;
 using teste::valores;
 using teste::visiveis;
 
 namespace {
 
-const QString Avancar = QStringLiteral("BotImportaAvancar");
+const QString Avancar = u"BotImportaAvancar"_s;
 // What each page says, and what it shows.
 const auto Textos = {"LblImporta", "BotImportaAvancar", "BotImportaCancela"};
 const auto Controles = {"LstImporta",           "BotImportaSelecionar",   "TxtImporta",
@@ -28,7 +30,7 @@ const auto Controles = {"LstImporta",           "BotImportaSelecionar",   "TxtIm
 
 QStringList linhas(const QWidget& tela) {
     QStringList textos;
-    const auto& lista = controle<QListWidget>(tela, QStringLiteral("LstImporta"));
+    const auto& lista = controle<QListWidget>(tela, "LstImporta");
     for (int i = 0; i < lista.count(); ++i) {
         textos << lista.item(i)->text();
     }
@@ -38,11 +40,11 @@ QStringList linhas(const QWidget& tela) {
 // The report, a highlighted line marked with "!".
 QStringList relatorio(const QWidget& tela) {
     QStringList textos;
-    const auto& texto = controle<halvo::RichText>(tela, QStringLiteral("TxtImporta"));
+    const auto& texto = controle<halvo::RichText>(tela, "TxtImporta");
     for (QTextBlock bloco = texto.document()->begin(); bloco.isValid(); bloco = bloco.next()) {
         if (!bloco.text().isEmpty()) {
             const bool destaque = bloco.begin().fragment().charFormat().fontWeight() == QFont::Bold;
-            textos << (destaque ? QStringLiteral("!") : QString()) + bloco.text();
+            textos << (destaque ? u"!"_s : QString()) + bloco.text();
         }
     }
     return textos;
@@ -58,9 +60,9 @@ private slots:
     // two good stations are found, imported and told to the host, and only closing is left.
     void importaDoisPostos() {
         teste::CasoDeTelas caso;
-        const QString pasta = teste::CopiaDadosDeExecucao(caso.host.caminho(QStringLiteral("entrada")));
-        const QString alfa = pasta + QStringLiteral("101.arq");
-        const QString beta = pasta + QStringLiteral("202.arq");
+        const QString pasta = teste::CopiaDadosDeExecucao(caso.host.caminho(u"entrada"_s));
+        const QString alfa = pasta + u"101.arq"_s;
+        const QString beta = pasta + u"202.arq"_s;
         auto tela = teste::carrega<corvalin::FrmImporta>(caso);
         tela->show();
         QCOMPARE(valores(*tela, Textos),
@@ -70,12 +72,12 @@ private slots:
                                                           "BotImportaAvancar", "BotImportaCancela"}));
 
         caso.host.dialogo.respondeArquivos({alfa, beta});
-        caso.host.dialogo.respondeArquivos({beta, pasta + QStringLiteral("Vazpast.dat")});
+        caso.host.dialogo.respondeArquivos({beta, pasta + u"Vazpast.dat"_s});
         for (int i = 0; i < 3; ++i) {
-            clica(*tela, QStringLiteral("BotImportaSelecionar"));
+            clica(*tela, "BotImportaSelecionar");
         }
-        QCOMPARE(linhas(*tela), (QStringList{alfa, beta, pasta + QStringLiteral("Vazpast.dat")}));
-        auto& lista = controle<QListWidget>(*tela, QStringLiteral("LstImporta"));
+        QCOMPARE(linhas(*tela), (QStringList{alfa, beta, pasta + u"Vazpast.dat"_s}));
+        auto& lista = controle<QListWidget>(*tela, "LstImporta");
         lista.setCurrentRow(2);
         QTest::keyClick(&lista, Qt::Key_Delete);
         lista.clearSelection();
@@ -88,9 +90,9 @@ private slots:
                               "&Iniciar", "&Cancela"}));
         QCOMPARE(visiveis(*tela, Controles),
                  (QStringList{"BotImportaVoltar", "BotImportaAvancar", "BotImportaCancela"}));
-        QCOMPARE(teste::habilitados(*tela, {"BotImportaAvancar"}).size(), 1);
-        clica(*tela, QStringLiteral("BotImportaVoltar"));
-        QCOMPARE(valor(*tela, Avancar), QStringLiteral("&Avançar >"));
+        QCOMPARE(habilitados(*tela, {"BotImportaAvancar"}).size(), 1);
+        clica(*tela, "BotImportaVoltar");
+        QCOMPARE(valor(*tela, Avancar), u"&Avançar >"_s);
         QCOMPARE(linhas(*tela), (QStringList{alfa, beta}));
 
         clica(*tela, Avancar);
@@ -100,13 +102,13 @@ private slots:
                     {"LblImporta", "BotImportaCancela", "LblImportaStatusNome", "LblImportaStatusNumero"}),
             (QStringList{"Importação concluída com sucesso. Clique em 'Fechar' para encerrar o Assistente.",
                          "&Fechar", beta, "Arquivo 2 de 2"}));
-        QCOMPARE(visiveis(*tela, Controles), QStringList{QStringLiteral("BotImportaCancela")});
-        QCOMPARE(teste::habilitados(*tela, {"BotImportaCancela"}).size(), 1);
-        QCOMPARE(teste::lePosto(caso, 202).Nome, QStringLiteral("Rio Beta em São José"));
+        QCOMPARE(visiveis(*tela, Controles), QStringList{u"BotImportaCancela"_s});
+        QCOMPARE(habilitados(*tela, {"BotImportaCancela"}).size(), 1);
+        QCOMPARE(teste::lePosto(caso, 202).Nome, u"Rio Beta em São José"_s);
         QCOMPARE(caso.notificador->Eventos(), std::vector<std::int32_t>{halvo::EventoImportacaoConcluida});
         QVERIFY(caso.host.dialogo.Mensagens().empty());
 
-        clica(*tela, QStringLiteral("BotImportaCancela"));
+        clica(*tela, "BotImportaCancela");
         QVERIFY(!tela->isVisible());
     }
 
@@ -114,29 +116,29 @@ private slots:
     // import are reported on the last page, which then has only "Fechar".
     void problemasEmCadaPagina() {
         teste::CasoDeTelas caso;
-        const QString pasta = teste::CopiaDadosDeExecucao(caso.host.caminho(QStringLiteral("entrada")));
-        QFile::remove(pasta + QStringLiteral("Vazpast.dat"));
+        const QString pasta = teste::CopiaDadosDeExecucao(caso.host.caminho(u"entrada"_s));
+        QFile::remove(pasta + u"Vazpast.dat"_s);
         auto tela = teste::carrega<corvalin::FrmImporta>(caso);
         clica(*tela, Avancar);
-        QCOMPARE(valor(*tela, QStringLiteral("LblImporta")),
-                 QStringLiteral("Foram encontrados alguns problemas nos arquivos selecionados:"));
+        QCOMPARE(valor(*tela, "LblImporta"),
+                 u"Foram encontrados alguns problemas nos arquivos selecionados:"_s);
         QCOMPARE(visiveis(*tela, Controles),
                  (QStringList{"TxtImporta", "BotImportaVoltar", "BotImportaAvancar", "BotImportaCancela"}));
-        QCOMPARE(teste::habilitados(*tela, {"BotImportaVoltar", "BotImportaAvancar", "BotImportaCancela"}),
+        QCOMPARE(habilitados(*tela, {"BotImportaVoltar", "BotImportaAvancar", "BotImportaCancela"}),
                  (QStringList{"BotImportaVoltar", "BotImportaCancela"}));
-        QCOMPARE(relatorio(*tela), QStringList{QStringLiteral("!Não foi encontrado nenhum arquivo.")});
+        QCOMPARE(relatorio(*tela), QStringList{u"!Não foi encontrado nenhum arquivo."_s});
 
-        clica(*tela, QStringLiteral("BotImportaVoltar"));
-        caso.host.dialogo.respondeArquivos({pasta + QStringLiteral("202.arq")});
-        clica(*tela, QStringLiteral("BotImportaSelecionar"));
+        clica(*tela, "BotImportaVoltar");
+        caso.host.dialogo.respondeArquivos({pasta + u"202.arq"_s});
+        clica(*tela, "BotImportaSelecionar");
         clica(*tela, Avancar);
         clica(*tela, Avancar);
         QCOMPARE(valores(*tela, {"LblImporta", "BotImportaCancela"}),
                  (QStringList{"Ocorreram alguns problemas durante a importação:", "&Fechar"}));
         QCOMPARE(visiveis(*tela, Controles), (QStringList{"TxtImporta", "BotImportaCancela"}));
-        QCOMPARE(relatorio(*tela), (QStringList{QStringLiteral("!Erro na leitura do arquivo de Vazpasts."),
-                                                pasta + QStringLiteral("202.arq")}));
-        QCOMPARE(teste::habilitados(*tela, {"BotImportaCancela"}).size(), 1);
+        QCOMPARE(relatorio(*tela),
+                 (QStringList{u"!Erro na leitura do arquivo de Vazpasts."_s, pasta + u"202.arq"_s}));
+        QCOMPARE(habilitados(*tela, {"BotImportaCancela"}).size(), 1);
     }
 };
 
