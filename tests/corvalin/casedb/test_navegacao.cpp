@@ -1,88 +1,51 @@
-#include "corvalin/casedb/casoBD.h"
-#include "tests/doubles/HostTeste.h"
-
-#include <gtest/gtest.h>
+#include "tests/corvalin/options/CasoAberto.h"
 
 namespace {
 
-using corvalin::casoBD;
-using recordstore::Recordset;
+using namespace Qt::StringLiterals;
 
-enum class Passo { Primeiro, Anterior, Proximo, Ultimo };
+enum Passo { Primeiro, Anterior, Proximo, Ultimo };
 
-// Stations in code order whose names run in another order, so that the two indexes differ.
-class NavegacaoTeste : public ::testing::Test {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(bd.Criar(host.caminho(QStringLiteral("caso"))));
-        bd.Fechar();
-        ASSERT_TRUE(bd.Abrir(teste::CasoTeste(host.caminho(QStringLiteral("caso"))), false, true));
-        bd.TabPostosAbrir();
+// Steps in name order from the station of code de, whatever the caller's index, which stays:
+// Emborcação (4), furnas (2), Itaipu (3), Tucuruí (1).
+TEST(NavegacaoTeste, AndaNaOrdemDosNomesEParaNasPontas) {
+    teste::CasoAberto caso;
+    caso.bd->TabPostosAbrir();
+    recordstore::Recordset& postos = caso.bd->TabPostos();
+    const auto passo = [&](Passo p, int de) {
+        bool modos[] = {p == Primeiro, p == Anterior, p == Proximo, p == Ultimo};
+        postos.setIndex(u"CodigoDoPosto"_s);
+        const bool achou = caso.bd->TabelaNavegacao(postos, u"NomeDoAproveitamento"_s, u"CodigoDoPosto"_s, de,
+                                                    modos[0], modos[1], modos[2], modos[3]);
+        EXPECT_EQ(postos.Index(), u"CodigoDoPosto"_s) << "the caller's index is kept";
+        return achou ? static_cast<int>(postos.campo(u"CodigoDoPosto"_s).paraInteiro()) : 0;
+    };
+    for (const Passo p : {Primeiro, Anterior, Proximo, Ultimo}) {
+        EXPECT_EQ(passo(p, 1), 0) << "an empty table, step " << p;
     }
-    void TearDown() override {
-        bd.TabPostosFechar();
-        bd.Fechar();
-    }
-
-    void adiciona(int codigo, const char* nome) {
-        Recordset& postos = bd.TabPostos();
+    for (const auto& [codigo, nome] :
+         {std::pair(1, u"Tucuruí"_s), {2, u"furnas"_s}, {3, u"Itaipu"_s}, {4, u"Emborcação"_s}}) {
         postos.AddNew();
-        postos.setCampo(QStringLiteral("CodigoDoPosto"), codigo);
-        postos.setCampo(QStringLiteral("NomeDoAproveitamento"), QString::fromUtf8(nome));
+        postos.setCampo(u"CodigoDoPosto"_s, codigo);
+        postos.setCampo(u"NomeDoAproveitamento"_s, nome);
         postos.Update();
     }
-
-    // Moves from the station of code chave and answers the code it stands on, 0 when on none.
-    int passo(Passo p, int chave) {
-        bool primeiro = p == Passo::Primeiro;
-        bool anterior = p == Passo::Anterior;
-        bool proximo = p == Passo::Proximo;
-        bool ultimo = p == Passo::Ultimo;
-        Recordset& postos = bd.TabPostos();
-        const bool achou =
-            bd.TabelaNavegacao(postos, QStringLiteral("NomeDoAproveitamento"), QStringLiteral("CodigoDoPosto"), chave,
-                               primeiro, anterior, proximo, ultimo);
-        return achou ? static_cast<int>(postos.campo(QStringLiteral("CodigoDoPosto")).paraInteiro()) : 0;
+    const struct {
+        Passo passo;
+        int de, para;
+        const char* porque;
+    } casos[] = {{Primeiro, 0, 4, ""},
+                 {Proximo, 4, 2, ""},
+                 {Proximo, 3, 1, ""},
+                 {Proximo, 1, 1, "next on the last stays on the last"},
+                 {Anterior, 4, 4, "previous on the first stays on the first"},
+                 {Anterior, 3, 2, ""},
+                 {Ultimo, 0, 1, ""},
+                 {Proximo, 99, 4, "a vanished station makes the step start from the first"}};
+    for (const auto& c : casos) {
+        EXPECT_EQ(passo(c.passo, c.de), c.para) << "step " << c.passo << " from " << c.de << ": " << c.porque;
     }
-
-    teste::HostTeste host;
-    casoBD bd;
-};
-
-TEST_F(NavegacaoTeste, TabelaVaziaNaoAcha) {
-    for (const Passo p : {Passo::Primeiro, Passo::Anterior, Passo::Proximo, Passo::Ultimo}) {
-        EXPECT_EQ(passo(p, 1), 0);
-    }
-}
-
-TEST_F(NavegacaoTeste, AndaNaOrdemDosNomesEParaNasPontas) {
-    adiciona(1, "Tucuruí");
-    adiciona(2, "furnas");
-    adiciona(3, "Itaipu");
-    adiciona(4, "Emborcação");
-    // Name order: Emborcação (4), furnas (2), Itaipu (3), Tucuruí (1).
-    EXPECT_EQ(passo(Passo::Primeiro, 0), 4);
-    EXPECT_EQ(passo(Passo::Proximo, 4), 2);
-    EXPECT_EQ(passo(Passo::Proximo, 2), 3);
-    EXPECT_EQ(passo(Passo::Proximo, 3), 1);
-    EXPECT_EQ(passo(Passo::Proximo, 1), 1) << "next on the last stays on the last";
-    EXPECT_EQ(passo(Passo::Anterior, 4), 4) << "previous on the first stays on the first";
-    EXPECT_EQ(passo(Passo::Anterior, 3), 2);
-    EXPECT_EQ(passo(Passo::Ultimo, 0), 1);
-    EXPECT_EQ(bd.TabPostos().Index(), QStringLiteral("NomeDoAproveitamento"));
-}
-
-TEST_F(NavegacaoTeste, ChaveQueSumiuVoltaAoPrimeiroEOIndiceDoChamadorFica) {
-    adiciona(10, "B");
-    adiciona(20, "A");
-    Recordset& postos = bd.TabPostos();
-    postos.setIndex(QStringLiteral("CodigoDoPosto"));
-    EXPECT_EQ(passo(Passo::Proximo, 99), 20) << "a vanished station makes the step start from the first";
-    EXPECT_EQ(postos.Index(), QStringLiteral("CodigoDoPosto")) << "the caller's index is kept";
-    EXPECT_EQ(postos.campo(QStringLiteral("CodigoDoPosto")).paraInteiro(), 20)
-        << "on the record found, under the caller's index";
-    EXPECT_EQ(passo(Passo::Anterior, 10), 20);
-    EXPECT_EQ(passo(Passo::Proximo, 20), 10);
+    caso.bd->TabPostosFechar();
 }
 
 }  // namespace
