@@ -21,6 +21,9 @@
 #include <QTest>
 
 #include <map>
+#include <tuple>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,26 +32,19 @@ using halvo::EntradaTela;
 // A model that keeps what the host gives it and opens plain widgets as its screens.
 class ModeloFalso : public halvo::IModelo {
 public:
-    struct Abertura {
-        std::int16_t item;
-        std::int32_t grupo;
-        QObject* contexto;
-    };
-
     std::map<std::int32_t, std::vector<EntradaTela>> telas;
     std::shared_ptr<halvo::caso> caso;
     std::shared_ptr<halvo::Notificador> notificador;
-    std::vector<Abertura> aberturas;
+    std::vector<std::tuple<std::int16_t, std::int32_t, QObject*>> aberturas;  // item, group, parent
     QStringList apagados;
     int fechamentos = 0;
 
-    QString Modelo() const override { return QStringLiteral("Falso"); }
-    QString Descricao() const override { return QStringLiteral("Modelo de teste"); }
-    QString VersaoModelo() const override { return QStringLiteral("1.0"); }
-    QString VersaoInterface() const override { return QStringLiteral("3.0.0.1"); }
-    std::int32_t CodigoDoCaso() const override { return caso->Item(QStringLiteral("Codigo")).toInt(); }
+    QString Modelo() const override { return u"Falso"_s; }
+    QString Descricao() const override { return u"Modelo de teste"_s; }
+    QString VersaoModelo() const override { return u"1.0"_s; }
+    QString VersaoInterface() const override { return u"3.0.0.1"_s; }
+    std::int32_t CodigoDoCaso() const override { return caso->Item(u"Codigo"_s).toInt(); }
     std::int32_t ModeloCodigo() const override { return 99; }
-
     std::int16_t AbrirCaso(std::shared_ptr<halvo::caso> c, std::shared_ptr<halvo::Notificador> n) override {
         caso = std::move(c);
         notificador = std::move(n);
@@ -65,20 +61,18 @@ public:
         return QDir(pasta).removeRecursively() ? 1 : 0;
     }
     std::int16_t JanelaAbrir(std::int16_t item, std::int32_t grupo, QObject* contexto) override {
-        aberturas.push_back({item, grupo, contexto});
+        aberturas.emplace_back(item, grupo, contexto);
         auto* tela = new QWidget;
         halvo::UtilitariosSistema& sistema = halvo::Servicos::sistema();
         sistema.JanelaFilha(tela, contexto);
-        sistema.JanelaRegistra(tela, caso->Item(QStringLiteral("estudo")),
-                               caso->Item(QStringLiteral("codigo")), grupo, item);
-        tela->setWindowTitle(QStringLiteral("%1 (%2)").arg(telas.at(grupo).at(item).Titulo,
-                                                           caso->Item(QStringLiteral("nome"))));
+        sistema.JanelaRegistra(tela, caso->Item(u"estudo"_s), caso->Item(u"codigo"_s), grupo, item);
+        tela->setWindowTitle(u"%1 (%2)"_s.arg(telas.at(grupo).at(item).Titulo, caso->Item(u"nome"_s)));
         tela->show();
         return 1;
     }
     std::optional<std::vector<EntradaTela>> Telas(std::int32_t grupo) const override {
-        const auto grupoAchado = telas.find(grupo);
-        return grupoAchado == telas.end() ? std::nullopt : std::optional(grupoAchado->second);
+        const auto achado = telas.find(grupo);
+        return achado == telas.end() ? std::nullopt : std::optional(achado->second);
     }
     std::int16_t Executar(std::shared_ptr<halvo::Notificador> n) override {
         n->Notifica(*caso, halvo::EventoExecucaoSemErro);
@@ -126,14 +120,14 @@ void TesteJanela::init() {
     mServicos = std::make_unique<halvo::InstalacaoServicos>(&mDialogo, &mSistema, nullptr);
     mModelo = ModeloFalso();
     mModelo.telas[1] = {{},
-                        {QStringLiteral("Opções"), 4, true},
-                        {QStringLiteral("Dados Gerais"), 4, false},
-                        {QStringLiteral("Histórico"), 1, true},
-                        {QStringLiteral("Limites"), 1, false}};
-    mModelo.telas[3] = {{}, {QStringLiteral("Execução"), 0, true}};
+                        {u"Opções"_s, 4, true},
+                        {u"Dados Gerais"_s, 4, false},
+                        {u"Histórico"_s, 1, true},
+                        {u"Limites"_s, 1, false}};
+    mModelo.telas[3] = {{}, {u"Execução"_s, 0, true}};
     mLista = std::make_unique<halvo::ListaDeCasos>();
-    lista(QStringLiteral("Estudo A"), QStringLiteral("Caso 1"));
-    lista(QStringLiteral("Estudo A"), QStringLiteral("Caso 2"));
+    lista(u"Estudo A"_s, u"Caso 1"_s);
+    lista(u"Estudo A"_s, u"Caso 2"_s);
     mJanela = std::make_unique<halvo::JanelaPrincipal>(mModelo, *mLista);
     mSistema.setPrincipal(mJanela.get());
 }
@@ -169,49 +163,35 @@ std::int32_t TesteJanela::lista(const QString& estudo, const QString& nome) {
 }
 
 void TesteJanela::menusDasTelasSoComCasoAberto() {
-    QStringList menus;
-    for (QAction* menu : mJanela->menuBar()->actions()) {
-        menus << menu->text();
-    }
-    QCOMPARE(menus,
-             (QStringList{QStringLiteral("&Caso"), QStringLiteral("Ca&dastro"), QStringLiteral("&Execução"),
-                          QStringLiteral("&Janela"), QStringLiteral("Aj&uda")}));
     QStringList cadastro;
-    for (QAction* item : mJanela->findChild<QMenu*>(QStringLiteral("menuGrupo_1"))->actions()) {
-        cadastro << (item->isSeparator() ? QStringLiteral("--") : item->text());
+    for (QAction* item : mJanela->findChild<QMenu*>(u"menuGrupo_1"_s)->actions()) {
+        cadastro << (item->isSeparator() ? u"--"_s : item->text());
     }
-    QCOMPARE(cadastro,
-             (QStringList{QStringLiteral("Opções"), QStringLiteral("Dados Gerais"), QStringLiteral("--"),
-                          QStringLiteral("Histórico"), QStringLiteral("Limites")}));
+    QCOMPARE(cadastro, (QStringList{u"Opções"_s, u"Dados Gerais"_s, u"--"_s, u"Histórico"_s, u"Limites"_s}));
     QVERIFY(!acao("acaoTela_1_3").isEnabled());
     QVERIFY(!acao("acaoExecutar").isEnabled());
     QVERIFY(!acao("acaoFechar").isEnabled());
     QVERIFY(!acao("acaoAbrir").isEnabled());
 
     abre(1);
-    QCOMPARE(mModelo.caso->Item(QStringLiteral("nome")), QStringLiteral("Caso 1"));
-    QCOMPARE(mModelo.caso->Item(QStringLiteral("Codigo")), QStringLiteral("1"));
-    QCOMPARE(
-        mModelo.caso->Item(QStringLiteral("Diretorio")),
-        QDir::toNativeSeparators(mPasta->filePath(QStringLiteral("Estudo A/Caso 1"))) + QDir::separator());
+    QCOMPARE(mModelo.caso->Item(u"nome"_s), u"Caso 1"_s);
+    QCOMPARE(mModelo.caso->Item(u"Codigo"_s), u"1"_s);
+    QCOMPARE(mModelo.caso->Item(u"Diretorio"_s),
+             QDir::toNativeSeparators(mPasta->filePath(u"Estudo A/Caso 1"_s)) + QDir::separator());
     QVERIFY(acao("acaoTela_1_3").isEnabled());
     QVERIFY(!acao("acaoAbrir").isEnabled());
-    QCOMPARE(mJanela->windowTitle(), QStringLiteral("Halvo - Estudo A / Caso 1"));
+    QCOMPARE(mJanela->windowTitle(), u"Halvo - Estudo A / Caso 1"_s);
 
     acao("acaoTela_1_3").trigger();
     QCOMPARE(mModelo.aberturas.size(), 1u);
-    QCOMPARE(mModelo.aberturas[0].item, 3);
-    QCOMPARE(mModelo.aberturas[0].grupo, 1);
-    QCOMPARE(mModelo.aberturas[0].contexto, &mJanela->Area());
+    QVERIFY(mModelo.aberturas[0] == std::tuple(3, 1, &mJanela->Area()));
     const QList<QMdiSubWindow*> subjanelas = mJanela->Area().subWindowList();
     QCOMPARE(subjanelas.size(), 1);
-    QCOMPARE(subjanelas[0]->windowTitle(), QStringLiteral("Histórico (Caso 1)"));
+    QCOMPARE(subjanelas[0]->windowTitle(), u"Histórico (Caso 1)"_s);
     const auto registro = halvo::UtilitariosSistemaGui::RegistroDe(*subjanelas[0]->widget());
     QVERIFY(registro.has_value());
-    QCOMPARE(registro->estudo, QStringLiteral("Estudo A"));
-    QCOMPARE(registro->caso, QStringLiteral("1"));
-    QCOMPARE(registro->grupo, 1);
-    QCOMPARE(registro->item, 3);
+    QVERIFY(std::tie(registro->estudo, registro->caso, registro->grupo, registro->item) ==
+            std::tuple(u"Estudo A"_s, u"1"_s, 1, 3));
 
     // Another case closes the first one; closing a case leaves its screens.
     abre(2);
@@ -220,11 +200,11 @@ void TesteJanela::menusDasTelasSoComCasoAberto() {
     QCOMPARE(mModelo.fechamentos, 2);
     QVERIFY(!acao("acaoTela_1_3").isEnabled());
     QCOMPARE(mJanela->Area().subWindowList().size(), 1);
-    QCOMPARE(mJanela->windowTitle(), QStringLiteral("Halvo"));
+    QCOMPARE(mJanela->windowTitle(), u"Halvo"_s);
 
     acao("acaoSobre").trigger();
     QCOMPARE(mDialogo.Mensagens().size(), 1u);
-    QCOMPARE(mDialogo.Mensagens()[0].titulo, QStringLiteral("Sobre o Halvo"));
+    QCOMPARE(mDialogo.Mensagens()[0].titulo, u"Sobre o Halvo"_s);
     for (const char* parte : {"Falso", "Modelo de teste", "1.0", "3.0.0.1"}) {
         QVERIFY(mDialogo.Mensagens()[0].texto.contains(QString::fromUtf8(parte)));
     }
@@ -256,13 +236,12 @@ void TesteJanela::eventosNaBarraDeEstado() {
     QTest::keyClick(painel, Qt::Key_Return);
     QTRY_COMPARE(mJanela->Gerente().Aberto(), std::optional<std::int32_t>(1));
     acao("acaoExecutar").trigger();
-    QCOMPARE(mJanela->statusBar()->currentMessage(), QStringLiteral("Execução concluída com sucesso."));
-    const std::vector<std::pair<std::int32_t, QString>> eventos{
-        {0, QStringLiteral("Importação terminada com problemas.")},
-        {1, QStringLiteral("Importação concluída.")},
-        {3, QStringLiteral("Alterações gravadas.")},
-        {5, QStringLiteral("Execução terminada com erros.")},
-        {42, QStringLiteral("Evento 42.")}};
+    QCOMPARE(mJanela->statusBar()->currentMessage(), u"Execução concluída com sucesso."_s);
+    const std::vector<std::pair<std::int32_t, QString>> eventos{{0, u"Importação terminada com problemas."_s},
+                                                                {1, u"Importação concluída."_s},
+                                                                {3, u"Alterações gravadas."_s},
+                                                                {5, u"Execução terminada com erros."_s},
+                                                                {42, u"Evento 42."_s}};
     for (const auto& [evento, frase] : eventos) {
         mModelo.notificador->Notifica(*mModelo.caso, evento);
         QCOMPARE(mJanela->statusBar()->currentMessage(), frase);
@@ -271,7 +250,7 @@ void TesteJanela::eventosNaBarraDeEstado() {
 
 // A screen of the deleted case goes with it; a screen of another case stays.
 void TesteJanela::apagarLevaAsTelasDoCaso() {
-    const QString pasta = QDir::toNativeSeparators(mPasta->filePath(QStringLiteral("Estudo A/Caso 2")));
+    const QString pasta = QDir::toNativeSeparators(mPasta->filePath(u"Estudo A/Caso 2"_s));
     abre(1);
     acao("acaoTela_3_1").trigger();
     abre(2);
@@ -284,10 +263,10 @@ void TesteJanela::apagarLevaAsTelasDoCaso() {
     mDialogo.responde(halvo::Resposta::Sim);
     acao("acaoApagar").trigger();
     QCOMPARE(mDialogo.Mensagens().size(), 2u);
-    QCOMPARE(mDialogo.Mensagens()[1].titulo, QStringLiteral("Confirmação"));
+    QCOMPARE(mDialogo.Mensagens()[1].titulo, u"Confirmação"_s);
     QCOMPARE(mModelo.apagados, QStringList{pasta});
     QCOMPARE(mJanela->Area().subWindowList().size(), 1);
-    QCOMPARE(mJanela->Area().subWindowList()[0]->windowTitle(), QStringLiteral("Execução (Caso 1)"));
+    QCOMPARE(mJanela->Area().subWindowList()[0]->windowTitle(), u"Execução (Caso 1)"_s);
     QVERIFY(!mJanela->Gerente().Aberto().has_value());
     halvo::ListaDeCasos relida;
     QVERIFY(relida.Carrega());

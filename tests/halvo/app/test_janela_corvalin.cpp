@@ -19,6 +19,8 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // The window's case commands on the real plug-in, each answered from a script.
@@ -37,7 +39,6 @@ private:
         return QDir::toNativeSeparators(mPasta.filePath(relativo));
     }
     static QString titulo(const QString& pasta);
-    void capturaSePedida();
 
     QTemporaryDir mPasta;
     halvo::JanelaPrincipal* mJanela = nullptr;
@@ -52,10 +53,10 @@ void TesteJanelaCorvalin::cria(const QString& estudo, const QString& nome, const
     QTimer::singleShot(0, this, [=, this] {
         auto* dialogo = qobject_cast<halvo::DialogoNovoCaso*>(QApplication::activeModalWidget());
         QVERIFY(dialogo != nullptr);
-        dialogo->findChild<QComboBox*>(QStringLiteral("CboEstudo"))->setCurrentText(estudo);
-        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtNome"))->setText(nome);
-        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtDescricao"))->setText(descricao);
-        dialogo->findChild<QLineEdit*>(QStringLiteral("TxtPasta"))->setText(caminho(estudo + u'/' + nome));
+        dialogo->findChild<QComboBox*>(u"CboEstudo"_s)->setCurrentText(estudo);
+        dialogo->findChild<QLineEdit*>(u"TxtNome"_s)->setText(nome);
+        dialogo->findChild<QLineEdit*>(u"TxtDescricao"_s)->setText(descricao);
+        dialogo->findChild<QLineEdit*>(u"TxtPasta"_s)->setText(caminho(estudo + u'/' + nome));
         dialogo->accept();
     });
     aciona("acaoNovo");
@@ -74,9 +75,9 @@ void TesteJanelaCorvalin::aciona(const char* nome) {
 
 // The case's title as the plug-in wrote it into its database.
 QString TesteJanelaCorvalin::titulo(const QString& pasta) {
-    const auto banco = recordstore::Database::OpenDatabase(pasta + QStringLiteral("/Corvalin.mdb"));
-    const auto tabela = banco->OpenRecordset(QStringLiteral("CasoCORVALIN"));
-    return tabela->Eof() ? QString() : tabela->campo(QStringLiteral("Titulo")).paraTexto();
+    const auto banco = recordstore::Database::OpenDatabase(pasta + u"/Corvalin.mdb"_s);
+    const auto tabela = banco->OpenRecordset(u"CasoCORVALIN"_s);
+    return tabela->Eof() ? QString() : tabela->campo(u"Titulo"_s).paraTexto();
 }
 
 void TesteJanelaCorvalin::casoCriadoAbertoCopiadoEApagado() {
@@ -84,37 +85,37 @@ void TesteJanelaCorvalin::casoCriadoAbertoCopiadoEApagado() {
     halvo::UtilitariosSistemaGui sistema;
     const halvo::InstalacaoServicos servicos(&dialogo, &sistema, nullptr);
     const halvo::Modelos modelos(QStringLiteral(CORVALIN_PASTA_BIN "/modelos"));
-    const auto modelo = modelos.Cria(QStringLiteral("Corvalin"));
+    const auto modelo = modelos.Cria(u"Corvalin"_s);
     QVERIFY(modelo != nullptr);
     halvo::ListaDeCasos lista;
     halvo::JanelaPrincipal janela(*modelo, lista);
     mJanela = &janela;
     sistema.setPrincipal(&janela);
 
-    cria(QStringLiteral("Rio Grande"), QStringLiteral("Furnas"), QStringLiteral("Previsão de 2026"));
-    cria(QStringLiteral("Rio Paraná"), QStringLiteral("Itaipu"), QString());
-    const QString furnas = caminho(QStringLiteral("Rio Grande/Furnas"));
-    QVERIFY(QFile::exists(furnas + QStringLiteral("/Corvalin.mdb")));
+    cria(u"Rio Grande"_s, u"Furnas"_s, u"Previsão de 2026"_s);
+    cria(u"Rio Paraná"_s, u"Itaipu"_s, QString());
+    const QString furnas = caminho(u"Rio Grande/Furnas"_s);
+    QVERIFY(QFile::exists(furnas + u"/Corvalin.mdb"_s));
     QCOMPARE(lista.Casos().size(), 2u);
 
     seleciona(1);
     aciona("acaoAbrir");
     QCOMPARE(janela.Gerente().Aberto(), std::optional<std::int32_t>(1));
-    QCOMPARE(titulo(furnas), QStringLiteral("Furnas"));
+    QCOMPARE(titulo(furnas), u"Furnas"_s);
     aciona("acaoFechar");
     QVERIFY(!janela.Gerente().Aberto());
 
     // A copy opens the case for the plug-in and closes it again.
-    const QString copia = caminho(QStringLiteral("Rio Grande/Furnas 2"));
+    const QString copia = caminho(u"Rio Grande/Furnas 2"_s);
     dialogo.respondePasta(copia);
     seleciona(1);
     aciona("acaoCopiar");
-    QVERIFY(QFile::exists(copia + QStringLiteral("/Corvalin.mdb")));
+    QVERIFY(QFile::exists(copia + u"/Corvalin.mdb"_s));
     const halvo::EntradaCaso* copiado = lista.ProcuraPasta(copia);
     QVERIFY(copiado != nullptr);
-    QCOMPARE(copiado->Nome, QStringLiteral("Furnas 2"));
-    QCOMPARE(copiado->Estudo, QStringLiteral("Rio Grande"));
-    QCOMPARE(copiado->Descricao, QStringLiteral("Previsão de 2026"));
+    QCOMPARE(copiado->Nome, u"Furnas 2"_s);
+    QCOMPARE(copiado->Estudo, u"Rio Grande"_s);
+    QCOMPARE(copiado->Descricao, u"Previsão de 2026"_s);
     const std::int32_t codigoDaCopia = copiado->Codigo;
     QVERIFY(!janela.Gerente().Aberto());
 
@@ -125,8 +126,8 @@ void TesteJanelaCorvalin::casoCriadoAbertoCopiadoEApagado() {
     seleciona(1);
     aciona("acaoCopiar");
     QCOMPARE(lista.Casos().size(), 3u);
-    QVERIFY(dialogo.Mensagens().back().texto.contains(QStringLiteral("não está vazia")));
-    dialogo.respondePasta(caminho(QStringLiteral("Rio Grande/Furnas 3")));
+    QVERIFY(dialogo.Mensagens().back().texto.contains(u"não está vazia"_s));
+    dialogo.respondePasta(caminho(u"Rio Grande/Furnas 3"_s));
     aciona("acaoCopiar");
     QCOMPARE(lista.Casos().size(), 4u);
     QCOMPARE(janela.Gerente().Aberto(), std::optional<std::int32_t>(2));
@@ -136,33 +137,11 @@ void TesteJanelaCorvalin::casoCriadoAbertoCopiadoEApagado() {
     aciona("acaoApagar");
     QVERIFY(!QDir(copia).exists());
     QVERIFY(lista.ProcuraPasta(copia) == nullptr);
-    QCOMPARE(dialogo.Mensagens().back().titulo, QStringLiteral("Confirmação"));
+    QCOMPARE(dialogo.Mensagens().back().titulo, u"Confirmação"_s);
 
     halvo::ListaDeCasos relida;
     QVERIFY(relida.Carrega());
     QCOMPARE(relida.Casos().size(), 3u);
-
-    seleciona(1);
-    aciona("acaoAbrir");
-    capturaSePedida();
-}
-
-// The picture of the window for the documentation, taken only when asked for.
-void TesteJanelaCorvalin::capturaSePedida() {
-    if (qEnvironmentVariableIsEmpty("HALVO_CAPTURA_JANELA")) {
-        return;
-    }
-    mJanela->resize(1100, 680);
-    mJanela->show();
-    for (const char* tela : {"acaoTela_4_1", "acaoTela_4_3"}) {
-        aciona(tela);
-    }
-    mJanela->Area().cascadeSubWindows();
-    QVERIFY(QTest::qWaitForWindowExposed(mJanela));
-    const QString arquivo =
-        QDir::cleanPath(QStringLiteral(CORVALIN_DADOS_TESTE "/../../docs/janela-principal.png"));
-    QVERIFY(QDir().mkpath(QFileInfo(arquivo).absolutePath()));
-    QVERIFY(mJanela->grab().save(arquivo));
 }
 
 }  // namespace

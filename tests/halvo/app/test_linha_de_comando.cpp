@@ -1,13 +1,15 @@
 #include "halvo/app/CasoPasta.h"
 #include "platform/recordstore/Recordstore.h"
 #include "tests/corvalin/casedb/BancoAntigo.h"
+#include "tests/platform/runtime/Casos.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,12 +20,15 @@ struct Saida {
 };
 
 // Runs the built host program, as a user or a script would.
-Saida halvo(const QStringList& argumentos) {
+Saida halvo(const QStringList& argumentos,
+            const QProcessEnvironment& ambiente = QProcessEnvironment::systemEnvironment()) {
     QProcess processo;
+    processo.setProcessEnvironment(ambiente);
     processo.start(QStringLiteral(CORVALIN_PASTA_BIN "/halvo"), argumentos);
     EXPECT_TRUE(processo.waitForFinished(60000));
     return {processo.exitStatus() == QProcess::NormalExit ? processo.exitCode() : -1,
-            QString::fromUtf8(processo.readAllStandardOutput()), QString::fromUtf8(processo.readAllStandardError())};
+            QString::fromUtf8(processo.readAllStandardOutput()),
+            QString::fromUtf8(processo.readAllStandardError())};
 }
 
 int contaLinhas(const QString& arquivo, const QString& tabela) {
@@ -38,79 +43,87 @@ int contaLinhas(const QString& arquivo, const QString& tabela) {
 
 TEST(CasoPasta, ItensDaPastaEDoRelogio) {
     QTemporaryDir dir;
-    const halvo::CasoPasta caso(dir.filePath(QStringLiteral("estudo/caso1")));
-    EXPECT_EQ(caso.Item(QStringLiteral("Diretorio")), dir.filePath(QStringLiteral("estudo/caso1")) + QDir::separator());
-    EXPECT_EQ(caso.Item(QStringLiteral("diretorio")), caso.Item(QStringLiteral("Diretorio")));
-    EXPECT_EQ(caso.Item(QStringLiteral("Nome")), QStringLiteral("caso1"));
-    EXPECT_EQ(caso.Item(QStringLiteral("nome")), QStringLiteral("caso1"));
-    EXPECT_EQ(caso.Item(QStringLiteral("estudo")), QStringLiteral("estudo"));
-    EXPECT_EQ(caso.Item(QStringLiteral("DataCriacao")), QDate::currentDate().toString(Qt::ISODate));
+    const halvo::CasoPasta caso(dir.filePath(u"estudo/caso1"_s));
+    confere<QString>({CASO(caso.Item(u"diretorio"_s), dir.filePath(u"estudo/caso1"_s) + QDir::separator()),
+                      CASO(caso.Item(u"Nome"_s), u"caso1"_s), CASO(caso.Item(u"estudo"_s), u"estudo"_s),
+                      CASO(caso.Item(u"DataCriacao"_s), QDate::currentDate().toString(Qt::ISODate))});
     EXPECT_FALSE(caso.SomenteLeitura());
 }
 
 TEST(LinhaDeComando, CriarEAbrirDeixamOitoTabelasEUmaIdentificacao) {
     QTemporaryDir dir;
-    const QString pasta = dir.filePath(QStringLiteral("c1"));
-    const Saida criar = halvo({QStringLiteral("criar"), pasta});
+    const QString pasta = dir.filePath(u"c1"_s);
+    const Saida criar = halvo({u"criar"_s, pasta});
     ASSERT_EQ(criar.codigo, 0) << criar.erro.toStdString();
-    const QString arquivo = pasta + QStringLiteral("/Corvalin.mdb");
-    EXPECT_EQ(contaLinhas(arquivo, QStringLiteral("CasoCORVALIN")), 0) << "a new case is completed at its first opening";
-    const Saida abrir = halvo({QStringLiteral("abrir"), pasta});
+    const QString arquivo = pasta + u"/Corvalin.mdb"_s;
+    EXPECT_EQ(contaLinhas(arquivo, u"CasoCORVALIN"_s), 0) << "a new case is completed at its first opening";
+    const Saida abrir = halvo({u"abrir"_s, pasta});
     ASSERT_EQ(abrir.codigo, 0) << abrir.erro.toStdString();
     EXPECT_EQ(recordstore::Database::OpenDatabase(arquivo)->NomesDasTabelas().size(), 8u);
-    EXPECT_EQ(contaLinhas(arquivo, QStringLiteral("CasoCORVALIN")), 1);
-    EXPECT_EQ(QDir(pasta).entryList(QDir::Files), QStringList{QStringLiteral("Corvalin.mdb")})
+    EXPECT_EQ(contaLinhas(arquivo, u"CasoCORVALIN"_s), 1);
+    EXPECT_EQ(QDir(pasta).entryList(QDir::Files), QStringList{u"Corvalin.mdb"_s})
         << "a closed case is one file";
 
-    EXPECT_NE(halvo({QStringLiteral("criar"), pasta}).codigo, 0) << "a case is not made over another";
+    EXPECT_NE(halvo({u"criar"_s, pasta}).codigo, 0) << "a case is not made over another";
 }
 
 TEST(LinhaDeComando, AbrirAtualizaVersaoAntigaERecusaOQueNaoECaso) {
     QTemporaryDir dir;
-    const QString antigo = dir.filePath(QStringLiteral("antigo"));
+    const QString antigo = dir.filePath(u"antigo"_s);
     ASSERT_TRUE(QDir().mkpath(antigo));
-    ASSERT_TRUE(executaSqlite3(antigo + QStringLiteral("/Corvalin.mdb"), sqlCincoTabelas()));
-    ASSERT_EQ(halvo({QStringLiteral("abrir"), antigo}).codigo, 0);
-    const QString arquivo = antigo + QStringLiteral("/Corvalin.mdb");
+    ASSERT_TRUE(executaSqlite3(antigo + u"/Corvalin.mdb"_s, sqlCincoTabelas()));
+    ASSERT_EQ(halvo({u"abrir"_s, antigo}).codigo, 0);
+    const QString arquivo = antigo + u"/Corvalin.mdb"_s;
     EXPECT_EQ(recordstore::Database::OpenDatabase(arquivo)->NomesDasTabelas().size(), 8u);
-    EXPECT_EQ(contaLinhas(arquivo, QStringLiteral("Postos")), 1);
-    EXPECT_EQ(contaLinhas(arquivo, QStringLiteral("VazoesSemanais")), 1);
+    EXPECT_EQ(contaLinhas(arquivo, u"Postos"_s), 1);
+    EXPECT_EQ(contaLinhas(arquivo, u"VazoesSemanais"_s), 1);
 
-    const QString estranho = dir.filePath(QStringLiteral("estranho"));
+    const QString estranho = dir.filePath(u"estranho"_s);
     ASSERT_TRUE(QDir().mkpath(estranho));
-    QFile lixo(estranho + QStringLiteral("/Corvalin.mdb"));
+    QFile lixo(estranho + u"/Corvalin.mdb"_s);
     ASSERT_TRUE(lixo.open(QIODevice::WriteOnly));
     lixo.write("isto não é um banco de dados");
     lixo.close();
-    const Saida falha = halvo({QStringLiteral("abrir"), estranho});
+    const Saida falha = halvo({u"abrir"_s, estranho});
     EXPECT_NE(falha.codigo, 0);
-    EXPECT_TRUE(falha.erro.contains(QStringLiteral("danificado ou não é de um Caso Corvalinh."))) << falha.erro.toStdString();
-    EXPECT_TRUE(falha.erro.trimmed().endsWith(QStringLiteral("não foi possível abrir o caso em %1.").arg(estranho)));
+    EXPECT_TRUE(falha.erro.contains(u"danificado ou não é de um Caso Corvalinh."_s))
+        << falha.erro.toStdString();
+    EXPECT_TRUE(falha.erro.trimmed().endsWith(u"não foi possível abrir o caso em %1."_s.arg(estranho)));
 
-    EXPECT_NE(halvo({QStringLiteral("abrir"), dir.filePath(QStringLiteral("nada"))}).codigo, 0);
+    EXPECT_NE(halvo({u"abrir"_s, dir.filePath(u"nada"_s)}).codigo, 0);
 }
 
-TEST(LinhaDeComando, CopiarApagarInfoEAjuda) {
+TEST(LinhaDeComando, CopiarApagarInfoAjudaEJanelaSemTela) {
     QTemporaryDir dir;
-    const QString origem = dir.filePath(QStringLiteral("origem"));
-    const QString destino = dir.filePath(QStringLiteral("destino"));
-    ASSERT_EQ(halvo({QStringLiteral("criar"), origem}).codigo, 0);
-    ASSERT_EQ(halvo({QStringLiteral("copiar"), origem, destino}).codigo, 0);
-    EXPECT_TRUE(QFile::exists(destino + QStringLiteral("/Corvalin.mdb")));
-    EXPECT_EQ(halvo({QStringLiteral("abrir"), destino}).codigo, 0);
-    EXPECT_EQ(halvo({QStringLiteral("apagar"), destino}).codigo, 0);
+    const QString origem = dir.filePath(u"origem"_s);
+    const QString destino = dir.filePath(u"destino"_s);
+    ASSERT_EQ(halvo({u"criar"_s, origem}).codigo, 0);
+    ASSERT_EQ(halvo({u"copiar"_s, origem, destino}).codigo, 0);
+    EXPECT_TRUE(QFile::exists(destino + u"/Corvalin.mdb"_s));
+    EXPECT_EQ(halvo({u"abrir"_s, destino}).codigo, 0);
+    EXPECT_EQ(halvo({u"apagar"_s, destino}).codigo, 0);
     EXPECT_FALSE(QDir(destino).exists());
-    EXPECT_NE(halvo({QStringLiteral("apagar"), destino}).codigo, 0);
+    EXPECT_NE(halvo({u"apagar"_s, destino}).codigo, 0);
 
-    const Saida info = halvo({QStringLiteral("info")});
+    const Saida info = halvo({u"info"_s});
     EXPECT_EQ(info.codigo, 0);
-    EXPECT_TRUE(info.saida.contains(QStringLiteral("Modelo Estocástico de Previsão de Vazões Semanais")));
-    EXPECT_TRUE(info.saida.contains(QStringLiteral("Histórico de Vazões Semanais")));
-    EXPECT_TRUE(info.saida.contains(QStringLiteral("Gráfico das Previsões")));
+    EXPECT_TRUE(info.saida.contains(u"Modelo Estocástico de Previsão de Vazões Semanais"_s));
+    EXPECT_TRUE(info.saida.contains(u"Histórico de Vazões Semanais"_s));
+    EXPECT_TRUE(info.saida.contains(u"Gráfico das Previsões"_s));
 
-    EXPECT_EQ(halvo({QStringLiteral("--help")}).codigo, 0);
-    EXPECT_EQ(halvo({QStringLiteral("inventado")}).codigo, 2);
-    EXPECT_EQ(halvo({QStringLiteral("criar")}).codigo, 2);
+    EXPECT_EQ(halvo({u"--help"_s}).codigo, 0);
+
+    // Without a display the window fails in one line.
+    QProcessEnvironment semTela = QProcessEnvironment::systemEnvironment();
+    for (const char* variavel : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        semTela.remove(QString::fromLatin1(variavel));
+    }
+    const Saida janela = halvo({u"janela"_s}, semTela);
+    EXPECT_EQ(janela.codigo, 1);
+    EXPECT_TRUE(janela.erro.startsWith(u"halvo: "_s) && janela.erro.count(u'\n') == 1)
+        << janela.erro.toStdString();
+    EXPECT_EQ(halvo({u"inventado"_s}).codigo, 2);
+    EXPECT_EQ(halvo({u"criar"_s}).codigo, 2);
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class TesteServicosGui : public QObject {
@@ -23,13 +25,11 @@ private slots:
 };
 
 void TesteServicosGui::textoEFiltros() {
-    QCOMPARE(halvo::TextoDaMensagem(QStringLiteral("Erro 53\rna rotina X\r\n\r\nfim")),
-             QStringLiteral("Erro 53\nna rotina X\n\nfim"));
-    QCOMPARE(halvo::FiltroDoQt(QStringLiteral("Todos os arquivos (*.*)|*.*")),
-             QStringLiteral("Todos os arquivos (*.*)"));
-    QCOMPARE(halvo::FiltroDoQt(QStringLiteral("Vazões semanais|*.arq; *.txt|Limites (*.lim)|*.lim|")),
-             QStringLiteral("Vazões semanais (*.arq *.txt);;Limites (*.lim)"));
-    QCOMPARE(halvo::FiltroDoQt(QStringLiteral("Qualquer")), QStringLiteral("Qualquer (*)"));
+    QCOMPARE(halvo::TextoDaMensagem(u"Erro 53\rna rotina X\r\n\r\nfim"_s), u"Erro 53\nna rotina X\n\nfim"_s);
+    QCOMPARE(halvo::FiltroDoQt(u"Todos os arquivos (*.*)|*.*"_s), u"Todos os arquivos (*.*)"_s);
+    QCOMPARE(halvo::FiltroDoQt(u"Vazões semanais|*.arq; *.txt|Limites (*.lim)|*.lim|"_s),
+             u"Vazões semanais (*.arq *.txt);;Limites (*.lim)"_s);
+    QCOMPARE(halvo::FiltroDoQt(u"Qualquer"_s), u"Qualquer (*)"_s);
     QCOMPARE(halvo::FiltroDoQt(QString()), QString());
 }
 
@@ -53,22 +53,21 @@ void TesteServicosGui::caixaDeMensagem() {
     halvo::ServicoDialogoGui dialogo;
     Caixa vista;
     respondeComTecla(vista, Qt::Key_Escape);
-    QCOMPARE(dialogo.Mensagem(QStringLiteral("Deseja gravar?\rSim ou não."), {}, halvo::Icone::Pergunta,
-                              halvo::Botoes::SimNao),
-             halvo::Resposta::Nao);
-    QCOMPARE(vista.titulo, QStringLiteral("Halvo"));
-    QCOMPARE(vista.texto, QStringLiteral("Deseja gravar?\nSim ou não."));
+    QCOMPARE(
+        dialogo.Mensagem(u"Deseja gravar?\rSim ou não."_s, {}, halvo::Icone::Pergunta, halvo::Botoes::SimNao),
+        halvo::Resposta::Nao);
+    QCOMPARE(vista.titulo, u"Halvo"_s);
+    QCOMPARE(vista.texto, u"Deseja gravar?\nSim ou não."_s);
     QCOMPARE(vista.icone, QMessageBox::Question);
 
     respondeComTecla(vista, Qt::Key_Return);
-    QCOMPARE(dialogo.Mensagem(QStringLiteral("Gravar?"), QStringLiteral("Confirmação"),
-                              halvo::Icone::Pergunta, halvo::Botoes::SimNaoCancelar),
+    QCOMPARE(dialogo.Mensagem(u"Gravar?"_s, u"Confirmação"_s, halvo::Icone::Pergunta,
+                              halvo::Botoes::SimNaoCancelar),
              halvo::Resposta::Sim);
-    QCOMPARE(vista.titulo, QStringLiteral("Confirmação"));
+    QCOMPARE(vista.titulo, u"Confirmação"_s);
 
     respondeComTecla(vista, Qt::Key_Escape);
-    QCOMPARE(dialogo.Mensagem(QStringLiteral("Falhou."), QStringLiteral("Erro"), halvo::Icone::Erro,
-                              halvo::Botoes::Ok),
+    QCOMPARE(dialogo.Mensagem(u"Falhou."_s, u"Erro"_s, halvo::Icone::Erro, halvo::Botoes::Ok),
              halvo::Resposta::Ok);
     QCOMPARE(vista.icone, QMessageBox::Critical);
 }
@@ -103,12 +102,6 @@ void TesteServicosGui::telaFilhaSaiComASubjanela() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(tela.isNull());
     QVERIFY(subjanela.isNull());
-
-    QPointer<QWidget> outra = new QWidget;
-    sistema.JanelaFilha(outra, &area);
-    area.closeAllSubWindows();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(outra.isNull());
 }
 
 void TesteServicosGui::janelaAuxiliarFicaSobreAPrincipal() {
