@@ -24,17 +24,6 @@ protected:
         return p;
     }
 
-    // Rows of a station in a table, counted on a handle of its own so that the shared ones stay.
-    int linhas(const QString& tabela, int codigo,
-               const QString& campo = QStringLiteral("CodigoDoPosto")) const {
-        auto rs = caso.bd->BancoDeDados().OpenRecordset(tabela);
-        int n = 0;
-        for (; !rs->Eof(); rs->MoveNext()) {
-            n += rs->campo(campo).paraInteiro() == codigo ? 1 : 0;
-        }
-        return n;
-    }
-
     CasoAberto caso;
     corvalin::PostoBD postoBD;
 };

@@ -2,7 +2,6 @@
 
 #include "platform/runtime/ErroVB.h"
 
-#include <optional>
 #include <tuple>
 
 namespace {
@@ -193,7 +192,7 @@ TEST_F(CatalogoTeste, NomeDeOutroCodigoRecusaSemDistinguirCaixa) {
     postos().setIndex(PorCodigo);
     EXPECT_FALSE(postoBD.setPosto(outro));
     EXPECT_EQ(postos().Index(), PorNome);
-    EXPECT_EQ(linhas(u"Postos"_s, 2) + linhas(u"DadosGerais"_s, 2), 0);
+    EXPECT_EQ(caso.linhas(u"Postos"_s, 2) + caso.linhas(u"DadosGerais"_s, 2), 0);
 
     outro.Nome = u"Furnás"_s;
     EXPECT_TRUE(postoBD.setPosto(outro)) << "accents tell names apart";
@@ -203,8 +202,8 @@ TEST_F(CatalogoTeste, NomeDeOutroCodigoRecusaSemDistinguirCaixa) {
     EXPECT_TRUE(postoBD.setPosto(renomeado)) << "the station's own name is a save, in another case too";
     EXPECT_EQ(le(1).Nome, u"Furnas"_s);
     EXPECT_EQ(le(1).Area, 5.5f);
-    EXPECT_EQ(linhas(u"Postos"_s, 1), 1);
-    EXPECT_EQ(linhas(u"DadosGerais"_s, 1), 0) << "empty general data write no row";
+    EXPECT_EQ(caso.linhas(u"Postos"_s, 1), 1);
+    EXPECT_EQ(caso.linhas(u"DadosGerais"_s, 1), 0) << "empty general data write no row";
 }
 
 TEST_F(CatalogoTeste, DadosGeraisVaziosNaoTocamALinhaExistente) {
@@ -226,7 +225,7 @@ TEST_F(CatalogoTeste, SetDadosGeraisFazAsDuasLinhasEGravaBrancoSemArquivo) {
     p.FlafVazpast = true;
     p.VazpastSemana_1 = 3;
     postoBD.setDadosGerais(p);
-    EXPECT_EQ(linhas(u"DadosGerais"_s, 12), 1);
+    EXPECT_EQ(caso.linhas(u"DadosGerais"_s, 12), 1);
     Recordset& complemento = caso.bd->TabDadosGeraisComplemento();
     complemento.Seek(u"="_s, {12});
     ASSERT_FALSE(complemento.NoMatch());
@@ -246,7 +245,8 @@ TEST_F(CatalogoTeste, FalhaNoMeioNaoGravaNadaEDevolveOIndice) {
         EXPECT_EQ(e.Number(), 3163);
     }
     EXPECT_EQ(postos().Index(), PorNome);
-    EXPECT_EQ(linhas(u"Postos"_s, 3) + linhas(u"DadosGerais"_s, 3), 0) << "the catalogue row went too";
+    EXPECT_EQ(caso.linhas(u"Postos"_s, 3) + caso.linhas(u"DadosGerais"_s, 3), 0)
+        << "the catalogue row went too";
 }
 
 TEST_F(CatalogoTeste, ApagarTiraCatalogoDadosGeraisEHistoricoEMaisNada) {
@@ -261,25 +261,12 @@ TEST_F(CatalogoTeste, ApagarTiraCatalogoDadosGeraisEHistoricoEMaisNada) {
 
     postoBD.delPosto(p);  // the only station: the tables are left empty without an error
     for (const char* tabela : {"Postos", "DadosGerais", "VazoesSemanais"}) {
-        EXPECT_EQ(linhas(QString::fromLatin1(tabela), 4), 0) << tabela;
+        EXPECT_EQ(caso.linhas(QString::fromLatin1(tabela), 4), 0) << tabela;
     }
-    EXPECT_EQ(linhas(u"DadosGeraisComplemento"_s, 4), 1);
-    EXPECT_EQ(linhas(u"VazoesPrevistas"_s, 4), 1);
-    EXPECT_EQ(linhas(u"LimitesPrevisao"_s, 4, u"Codigo"_s), 1);
+    EXPECT_EQ(caso.linhas(u"DadosGeraisComplemento"_s, 4), 1);
+    EXPECT_EQ(caso.linhas(u"VazoesPrevistas"_s, 4), 1);
+    EXPECT_EQ(caso.linhas(u"LimitesPrevisao"_s, 4, u"Codigo"_s), 1);
     EXPECT_EQ(postos().Index(), PorNome);
-}
-
-TEST(LojaDePostosTeste, CadaLojaFechaAsTabelasQueAbriu) {
-    teste::CasoAberto caso;
-    std::optional<corvalin::PostoBD> a(std::in_place);
-    std::optional<corvalin::PostoBD> b(std::in_place);
-    a->setCasoBD(caso.bd);
-    b->setCasoBD(caso.bd);
-    b->setCasoBD(caso.bd);  // a second call does not count twice
-    b.reset();
-    EXPECT_NO_THROW(caso.bd->TabPostos()) << "the other store still holds them";
-    a.reset();
-    EXPECT_THROW(caso.bd->TabPostos(), plataforma::ErroVB);
 }
 
 }  // namespace

@@ -54,7 +54,7 @@ TEST_F(HistoricoTeste, IdaEVoltaEm52E53SemanasComLacunasSemLinha) {
         const Posto p = posto(semanas53 ? 53 : 52, 1990, 1992, semanas53);
         const Historico gravado = cheio(p, {{1, 1}, {2, 30}, {3, p.getNumSemanas()}});
         postoBD.setHistorico(p, gravado);
-        EXPECT_EQ(linhas(u"VazoesSemanais"_s, p.Codigo), 3 * p.getNumSemanas() - 3)
+        EXPECT_EQ(caso.linhas(u"VazoesSemanais"_s, p.Codigo), 3 * p.getNumSemanas() - 3)
             << "a missing week has no row";
         Historico lido(7, 7);
         EXPECT_TRUE(postoBD.getHistorico(p, lido));
@@ -71,7 +71,7 @@ TEST_F(HistoricoTeste, GravarSubstituiTudoSemMisturar) {
     Historico lido;
     postoBD.getHistorico(p, lido);
     esperaIgual(lido, novo);
-    EXPECT_EQ(linhas(u"VazoesSemanais"_s, 1), 1);
+    EXPECT_EQ(caso.linhas(u"VazoesSemanais"_s, 1), 1);
 }
 
 TEST_F(HistoricoTeste, FormaVemDoPostoEOsAnosForaCaemOuFalham) {
@@ -148,7 +148,7 @@ TEST_F(HistoricoTeste, FalhaNoMeioDaGravacaoDeixaOHistoricoAntigo) {
     Historico lido;
     postoBD.getHistorico(p, lido);
     esperaIgual(lido, antigo);
-    EXPECT_EQ(linhas(u"VazoesSemanais"_s, 2), 52);
+    EXPECT_EQ(caso.linhas(u"VazoesSemanais"_s, 2), 52);
 
     // A caller's transaction around several writes keeps or drops them together.
     {
@@ -156,8 +156,8 @@ TEST_F(HistoricoTeste, FalhaNoMeioDaGravacaoDeixaOHistoricoAntigo) {
         postoBD.setHistorico(p, Historico(2, 52));
         postoBD.delPosto(outro);
     }
-    EXPECT_EQ(linhas(u"VazoesSemanais"_s, 1), 104);
-    EXPECT_EQ(linhas(u"Postos"_s, 2), 1);
+    EXPECT_EQ(caso.linhas(u"VazoesSemanais"_s, 1), 104);
+    EXPECT_EQ(caso.linhas(u"Postos"_s, 2), 1);
 }
 
 }  // namespace

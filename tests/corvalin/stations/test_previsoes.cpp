@@ -79,7 +79,7 @@ TEST_F(PrevisoesTeste, PrevisaoComFalhaNaoGravaNada) {
     } catch (const plataforma::ErroVB& e) {
         EXPECT_EQ(e.Number(), 6);
     }
-    EXPECT_EQ(linhas(u"VazoesPrevistas"_s, 3), 0);
+    EXPECT_EQ(caso.linhas(u"VazoesPrevistas"_s, 3), 0);
 }
 
 TEST_F(PrevisoesTeste, AnterioresAtravessamOAnoConformeAsSemanasDoPosto) {
@@ -124,7 +124,7 @@ TEST_F(PrevisoesTeste, LimitesPorTipoSemApagar) {
     postoBD.setLimitesPrevisao(1, 2, pVetor({5, 6}), pVetor({50, 60}));
     postoBD.setLimitesPrevisao(1, 1, pVetor({7, 8}), pVetor({70, 80}));
     postoBD.setLimitesPrevisao(2, 1, pVetor({9}), pVetor({90}));
-    EXPECT_EQ(linhas(u"LimitesPrevisao"_s, 1, u"Codigo"_s), 6);
+    EXPECT_EQ(caso.linhas(u"LimitesPrevisao"_s, 1, u"Codigo"_s), 6);
 
     Vetor<std::int16_t> ordem(4);
     Vetor<float> inf(4), sup(4);
