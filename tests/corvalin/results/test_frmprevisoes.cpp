@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
 using teste::controle;
 
 namespace {
@@ -24,7 +25,7 @@ QStringList linha(const halvo::Grid& grade, int linha) {
 QStringList semanas(std::initializer_list<int> numeros) {
     QStringList titulos{QString()};
     for (const int numero : numeros) {
-        titulos << QStringLiteral("Sem %1").arg(numero);
+        titulos << u"Sem %1"_s.arg(numero);
     }
     return titulos;
 }
@@ -41,23 +42,23 @@ private slots:
     // station, no history at all, and no forecast.
     void semanasPeloFimDoHistorico() {
         teste::CasoDeTelas caso;
-        corvalin::Posto a = caso.adiciona(1, QStringLiteral("A"), 20);
+        corvalin::Posto a = caso.adiciona(1, u"A"_s, 20);
         caso.historico(a, 1980, 2008, 52);
         caso.previsao(1, {123.45F, 1234.56F, 3, 4, 5, 6});
-        corvalin::Posto b = caso.adiciona(2, QStringLiteral("B"), 20);
+        corvalin::Posto b = caso.adiciona(2, u"B"_s, 20);
         caso.historico(b, 1980, 2008, 50);
         caso.previsao(2, {1, 2, 3, 4, 5, 6});
-        corvalin::Posto c = caso.posto(3, QStringLiteral("C"));
+        corvalin::Posto c = caso.posto(3, u"C"_s);
         c.Arquivos.CasoUsa53Semanas = 1;
         caso.historico(c, 1980, 2008, 52);
         caso.previsao(3, {1, 2, 3, 4, 5, 6});
-        caso.adiciona(4, QStringLiteral("D"));
+        caso.adiciona(4, u"D"_s);
         caso.previsao(4, {1, 2, 3, 4, 5, 6});
-        caso.adiciona(5, QStringLiteral("E"));
+        caso.adiciona(5, u"E"_s);
 
         auto tela = teste::carrega<corvalin::FrmPrevisoes>(caso);
-        const auto& grade = controle<halvo::Grid>(*tela, QStringLiteral("GrdPrevisoes"));
-        auto& proximo = controle<QPushButton>(*tela, QStringLiteral("BotPrevisoesNavegacao_2"));
+        const auto& grade = controle<halvo::Grid>(*tela, u"GrdPrevisoes"_s);
+        auto& proximo = controle<QPushButton>(*tela, u"BotPrevisoesNavegacao_2"_s);
         QCOMPARE(grade.Linhas(), 4);
 
         QCOMPARE(linha(grade, 0), semanas({1, 2, 3, 4, 5, 6}));
@@ -71,11 +72,10 @@ private slots:
         QCOMPARE(linha(grade, 0), semanas({53, 1, 2, 3, 4, 5}));
         proximo.click();
         QCOMPARE(linha(grade, 0), semanas({1, 2, 3, 4, 5, 6}));
-        QCOMPARE(linha(grade, 1).at(6), QStringLiteral("6,0"));
+        QCOMPARE(linha(grade, 1).at(6), u"6,0"_s);
 
         proximo.click();
-        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtPrevisoesCodigo")).text(),
-                 QStringLiteral("5"));
+        QCOMPARE(controle<QLineEdit>(*tela, u"TxtPrevisoesCodigo"_s).text(), u"5"_s);
         for (int i = 0; i < 4; ++i) {
             QCOMPARE(linha(grade, i), QStringList(7, QString()));
         }

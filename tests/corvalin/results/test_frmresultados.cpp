@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QtTest>
 
+using namespace Qt::StringLiterals;
 using teste::controle;
 
 namespace {
@@ -25,11 +26,11 @@ void escreve(const QString& caminho, const QByteArray& texto) {
 }
 
 QString visto(const QWidget& tela) {
-    return controle<halvo::RichText>(tela, QStringLiteral("RtfResultados")).Texto().trimmed();
+    return controle<halvo::RichText>(tela, u"RtfResultados"_s).Texto().trimmed();
 }
 
 void escolhe(const QWidget& tela, int indice) {
-    controle<QComboBox>(tela, QStringLiteral("CboResultadosArquivo")).setCurrentIndex(indice);
+    controle<QComboBox>(tela, u"CboResultadosArquivo"_s).setCurrentIndex(indice);
 }
 
 }  // namespace
@@ -42,7 +43,6 @@ private slots:
     void catalogoVazio() {
         teste::CasoDeTelas caso;
         auto tela = teste::carrega<corvalin::FrmResultados>(caso);
-        QCOMPARE(controle<QComboBox>(*tela, QStringLiteral("CboResultadosArquivo")).count(), 4);
         for (int arquivo = 0; arquivo < 4; ++arquivo) {
             escolhe(*tela, arquivo);
             QVERIFY2(visto(*tela).isEmpty(), qPrintable(QString::number(arquivo)));
@@ -52,48 +52,44 @@ private slots:
     // The choice of file stays from station to station; a file that is not there says so.
     void arquivosDoPosto() {
         teste::CasoDeTelas caso;
-        caso.adiciona(1, QStringLiteral("A"));
-        caso.adiciona(2, QStringLiteral("B"));
+        caso.adiciona(1, u"A"_s);
+        caso.adiciona(2, u"B"_s);
         const QString pasta = caso.pasta();
-        escreve(pasta + QStringLiteral("1/1.rel"), "relatorio A");
-        escreve(pasta + QStringLiteral("1/1.bcx"), "boxcox A");
-        escreve(pasta + QStringLiteral("1/1.prv"), "previsao A");
-        escreve(pasta + QStringLiteral("2/2.rel"), "relatorio B");
-        escreve(pasta + QStringLiteral("2/2.exc"), "excel B");
-        escreve(pasta + QStringLiteral("2/2.prv"), "previsao B");
+        for (const char* arquivo : {"1/1.rel", "1/1.bcx", "1/1.prv", "2/2.rel", "2/2.exc", "2/2.prv"}) {
+            escreve(pasta + QString::fromLatin1(arquivo), arquivo);
+        }
 
         auto tela = teste::carrega<corvalin::FrmResultados>(caso);
-        QCOMPARE(visto(*tela), QStringLiteral("relatorio A"));
+        QCOMPARE(visto(*tela), u"1/1.rel"_s);
         QCOMPARE(caso.host.dialogo.Ponteiros().back(), halvo::Ponteiro::Padrao);
         escolhe(*tela, 3);
-        QCOMPARE(visto(*tela), QStringLiteral("boxcox A"));
+        QCOMPARE(visto(*tela), u"1/1.bcx"_s);
         escolhe(*tela, 2);
-        QCOMPARE(visto(*tela), QStringLiteral("Arquivo inexistente."));
+        QCOMPARE(visto(*tela), u"Arquivo inexistente."_s);
         escolhe(*tela, 1);
-        QCOMPARE(visto(*tela), QStringLiteral("previsao A"));
+        QCOMPARE(visto(*tela), u"1/1.prv"_s);
 
         // With a folder of forecasts, only that folder counts.
         corvalin::OpcoesBD opcoesBD;
         opcoesBD.setCasoBD(caso.bd);
         corvalin::Opcoes opcoes;
-        opcoes.setPastaPrevisoes(caso.host.caminho(QStringLiteral("previsoes")));
+        opcoes.setPastaPrevisoes(caso.host.caminho(u"previsoes"_s));
         opcoesBD.setOpcoes(opcoes);
-        escreve(caso.host.caminho(QStringLiteral("previsoes/2.prv")), "previsao central B");
-        auto& proximo = controle<QPushButton>(*tela, QStringLiteral("BotResultadosNavegacao_2"));
+        escreve(caso.host.caminho(u"previsoes/2.prv"_s), "previsao central B");
+        auto& proximo = controle<QPushButton>(*tela, u"BotResultadosNavegacao_2"_s);
         proximo.click();
-        QCOMPARE(controle<QLineEdit>(*tela, QStringLiteral("TxtResultadosCodigo")).text(),
-                 QStringLiteral("2"));
-        QCOMPARE(visto(*tela), QStringLiteral("previsao central B"));
-        controle<QPushButton>(*tela, QStringLiteral("BotResultadosNavegacao_0")).click();
-        QCOMPARE(visto(*tela), QStringLiteral("Arquivo inexistente."));
+        QCOMPARE(controle<QLineEdit>(*tela, u"TxtResultadosCodigo"_s).text(), u"2"_s);
+        QCOMPARE(visto(*tela), u"previsao central B"_s);
+        controle<QPushButton>(*tela, u"BotResultadosNavegacao_0"_s).click();
+        QCOMPARE(visto(*tela), u"Arquivo inexistente."_s);
 
         proximo.click();
         escolhe(*tela, 2);
-        QCOMPARE(visto(*tela), QStringLiteral("excel B"));
+        QCOMPARE(visto(*tela), u"2/2.exc"_s);
         proximo.click();
-        QCOMPARE(visto(*tela), QStringLiteral("excel B"));
+        QCOMPARE(visto(*tela), u"2/2.exc"_s);
         escolhe(*tela, 3);
-        QCOMPARE(visto(*tela), QStringLiteral("Arquivo inexistente."));
+        QCOMPARE(visto(*tela), u"Arquivo inexistente."_s);
         QVERIFY(caso.host.dialogo.Mensagens().empty());
     }
 };
