@@ -9,12 +9,10 @@ namespace teste {
 
 QStringList LinhasDe(const QString& caminho) {
     QStringList linhas;
-    if (!QFile::exists(caminho)) {
-        return linhas;
-    }
-    texto::ArquivoEntrada entrada(caminho);
-    while (!entrada.Eof()) {
-        linhas << entrada.LineInput();
+    if (QFile::exists(caminho)) {
+        for (texto::ArquivoEntrada entrada(caminho); !entrada.Eof();) {
+            linhas << entrada.LineInput();
+        }
     }
     return linhas;
 }

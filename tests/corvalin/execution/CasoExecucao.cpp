@@ -4,8 +4,6 @@
 #include "corvalin/stations/Historico.h"
 #include "halvo/sdk/CamadaAcesso.h"
 
-#include <QDir>
-
 namespace teste {
 
 using corvalin::Posto;
@@ -16,19 +14,17 @@ Posto PostoPronto(std::int32_t codigo, const QString& nome, int anos) {
     p.Nome = nome;
     p.Area = 1000;
     p.AnoInicial = 1981;
-    p.AnoFinal = static_cast<std::int16_t>(1981 + anos - 1);
+    p.AnoFinal = p.AnoFinalHistorico = static_cast<std::int16_t>(1981 + anos - 1);
+    p.AnoInicialPrev = p.AnoFinal + 1;
     const QString base = QStringLiteral("C%1.").arg(codigo);
     p.Arquivos.ArquivoDadosGerais = base + QStringLiteral("arq");
     p.Arquivos.ArquivoVazoesSemanais = base + QStringLiteral("dat");
     p.Arquivos.ArquivoRelatorio = base + QStringLiteral("rel");
     p.Arquivos.ArquivoPrevisoes = base + QStringLiteral("prv");
     p.Arquivos.ArquivoExcel = base + QStringLiteral("exc");
-    p.Transformacao = 1;
-    p.MesInicial = 1;
+    p.Transformacao = p.MesInicial = 1;
     p.IntervaloConfianca = 95;
     p.SemanaInicialPrev = 1;
-    p.AnoInicialPrev = p.AnoFinal + 1;
-    p.AnoFinalHistorico = p.AnoFinal;
     return p;
 }
 
@@ -76,30 +72,6 @@ void CasoExecucao::mudaOpcoes(const std::function<void(corvalin::Opcoes&)>& muda
     opcoesBD.getOpcoes(opcoes);
     muda(opcoes);
     opcoesBD.setOpcoes(opcoes);
-}
-
-QString CasoExecucao::pastaCaso() const {
-    return caso->Item(QStringLiteral("Diretorio"));
-}
-
-QString CasoExecucao::pastaPosto(std::int32_t codigo) const {
-    return pastaCaso() + QString::number(codigo);
-}
-
-QString CasoExecucao::arquivoPosto(std::int32_t codigo, const QString& nome) const {
-    return pastaPosto(codigo) + QDir::separator() + nome;
-}
-
-QStringList CasoExecucao::arquivosDe(std::int32_t codigo) const {
-    return QDir(pastaPosto(codigo)).entryList(QDir::Files, QDir::Name);
-}
-
-void CasoExecucao::instrucoes(std::int32_t codigo, const QStringList& linhas) const {
-    Grava(pastaCaso() + QStringLiteral("Instrucoes_%1.txt").arg(codigo), linhas);
-}
-
-QStringList CasoExecucao::execucoes() const {
-    return LinhasDe(pastaCaso() + QStringLiteral("Execucoes.txt"));
 }
 
 int CasoExecucao::conta(const QString& tabela, std::int32_t codigo) const {

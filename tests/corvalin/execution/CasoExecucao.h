@@ -11,6 +11,7 @@
 #include "tests/corvalin/execution/ArquivosTeste.h"
 #include "tests/doubles/HostTeste.h"
 
+#include <QDir>
 #include <QStringList>
 
 #include <gtest/gtest.h>
@@ -37,18 +38,22 @@ protected:
     // The run logic on this case, made at first use (the screen's opening does not load the list).
     corvalin::AssistenteExecucao& assistente();
 
-    // The case folder, ending in the separator, and a station's folder in it, without.
-    QString pastaCaso() const;
-    QString pastaPosto(std::int32_t codigo) const;
-    QString arquivoPosto(std::int32_t codigo, const QString& nome) const;
-    // The files of a station's folder, in name order.
-    QStringList arquivosDe(std::int32_t codigo) const;
+    // The case folder ends in the separator; a station's folder does not.
+    QString pastaCaso() const { return caso->Item(QStringLiteral("Diretorio")); }
+    QString pastaPosto(std::int32_t codigo) const { return pastaCaso() + QString::number(codigo); }
+    QString arquivoPosto(std::int32_t codigo, const QString& nome) const {
+        return pastaPosto(codigo) + QDir::separator() + nome;
+    }
+    QStringList arquivosDe(std::int32_t codigo) const {
+        return QDir(pastaPosto(codigo)).entryList(QDir::Files, QDir::Name);
+    }
     // What the test solver does for a station, and what it noted of its runs.
-    void instrucoes(std::int32_t codigo, const QStringList& linhas) const;
-    QStringList execucoes() const;
+    void instrucoes(std::int32_t codigo, const QStringList& linhas) const {
+        Grava(pastaCaso() + QStringLiteral("Instrucoes_%1.txt").arg(codigo), linhas);
+    }
+    QStringList execucoes() const { return LinhasDe(pastaCaso() + QStringLiteral("Execucoes.txt")); }
     // Rows of a station in a table.
     int conta(const QString& tabela, std::int32_t codigo) const;
-    // The texts of the log, in order.
     QStringList textosDoRegistro() const;
 
     HostTeste host;

@@ -4,7 +4,6 @@
 #include "platform/runtime/Vetor.h"
 #include "tests/corvalin/execution/CasoExecucao.h"
 
-#include <QDir>
 #include <QFile>
 
 #include <gmock/gmock.h>
@@ -23,13 +22,11 @@ const QString Branco = " ";
 
 // The instruction of a forecast with values that tell the weeks and the series apart.
 QString pPrevisao(int base) {
-    QStringList valores;
-    for (int serie = 0; serie < 3; ++serie) {
-        for (int semana = 1; semana <= 6; ++semana) {
-            valores << QString::number(base + serie * 100 + semana * 10 + 0.5);
-        }
+    QString instrucao = QStringLiteral("previsao");
+    for (int i = 0; i < 18; ++i) {
+        instrucao += QStringLiteral(" %1.5").arg(base + i / 6 * 100 + (i % 6 + 1) * 10);
     }
-    return QStringLiteral("previsao ") + valores.join(u' ');
+    return instrucao;
 }
 
 // Records, with each message, how many lines the log had when it came.
@@ -63,16 +60,19 @@ protected:
     }
 };
 
+// The solver's notice comes before the station's log line, and its file goes.
 TEST_F(Execucao, OneStationFromFolderToStoredForecast) {
     grava(PostoPronto(10, "Alfa"));
-    instrucoes(10, {pPrevisao(1000), "relatorio texto", "planilha", "prevp", "runstate 0"});
+    instrucoes(10, {pPrevisao(1000), "relatorio texto", "planilha", "prevp", "aviso Previsão limitada.",
+                    "runstate 0"});
     // The error file stands right behind the plug-in's folder text, not inside the folder.
     Grava(pastaPlugin + QStringLiteral("merro.tmp"), {"x"});
     QDir().mkpath(pastaPosto(10));
     Grava(arquivoPosto(10, "Caso.dat"), {"ANTIGO.arq"});
     assistente().pCarregarPostos();
     assistente().pGerarArquivosDireto();
-    host.dialogo.limpa();
+    DialogoComRegistro dialogo(registro);
+    const halvo::InstalacaoServicos servicos(&dialogo, &host.sistema, &host.halvo);
 
     assistente().pExecutar();
 
@@ -91,9 +91,15 @@ TEST_F(Execucao, OneStationFromFolderToStoredForecast) {
     EXPECT_TRUE(linhas[1].estilo == RegistroTexto::Normal && !linhas[1].destaque && linhas[1].quebraLinha);
     EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoSemErro));
     EXPECT_EQ(assistente().getLblExecutar(), "Execução do Caso:");
-    EXPECT_THAT(host.dialogo.Ponteiros(), ElementsAre(halvo::Ponteiro::Ocupado, halvo::Ponteiro::Padrao));
+    EXPECT_THAT(dialogo.Ponteiros(), ElementsAre(halvo::Ponteiro::Ocupado, halvo::Ponteiro::Padrao));
+    ASSERT_EQ(dialogo.Mensagens().size(), 1u);
+    EXPECT_EQ(dialogo.Mensagens()[0].texto, "Previsão limitada.");
+    EXPECT_EQ(dialogo.Mensagens()[0].titulo, msgTituloInformacao);
+    EXPECT_EQ(dialogo.Mensagens()[0].icone, halvo::Icone::Informacao);
+    EXPECT_THAT(dialogo.LinhasAntes, ElementsAre(0u));
 }
 
+// An empty notice shows nothing and goes all the same.
 TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationStillRuns) {
     const QStringList nomes = {"A", "B", "C", "D", "E"};
     for (int i = 0; i < nomes.size(); ++i) {
@@ -103,7 +109,7 @@ TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationSti
     instrucoes(20, {pPrevisao(200), "aborta"});
     instrucoes(30, {});
     instrucoes(40, {pPrevisao(400), "runstate 1"});
-    instrucoes(50, {"runstate  0 "});
+    instrucoes(50, {"aviso", "runstate  0 "});
     // A former forecast of the silent station stays when it writes none.
     plataforma::Vetor<float> antiga(6);
     antiga[1] = 7;
@@ -120,83 +126,56 @@ TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationSti
     EXPECT_FLOAT_EQ(previsao(20, 0).at(0), 210.5f);
     EXPECT_FLOAT_EQ(previsao(30, 0).at(0), 7);
     EXPECT_FLOAT_EQ(previsao(40, 1).at(5), 560.5f);
+    EXPECT_TRUE(host.dialogo.Mensagens().empty());
+    EXPECT_FALSE(QFile::exists(arquivoPosto(50, "Aviso.txt")));
 }
 
+// Read as Val reads it: a text or an empty file is a 0.
 TEST_F(Execucao, TheVerdictIsTheFirstLineOfTheStateFileReadAsANumber) {
     const QString pasta = host.caminho("estado");
     QDir().mkpath(pasta);
-    const QString arquivo = pasta + QStringLiteral("/RUNSTATE.DAT");
-    const auto veredito = [&](const QStringList& linhas) {
-        Grava(arquivo, linhas);
-        return corvalin::ExecucaoPostos::pExecutouSemErro(pasta);
-    };
-    EXPECT_TRUE(veredito({"0"}));
-    EXPECT_TRUE(veredito({" 0 ", "1"}));
-    EXPECT_TRUE(veredito({QString()}));
-    EXPECT_TRUE(veredito({}));
-    EXPECT_TRUE(veredito({"terminou"}));
-    EXPECT_FALSE(veredito({"1"}));
-    EXPECT_FALSE(veredito({" 0.5"}));
-    QFile::remove(arquivo);
-    EXPECT_FALSE(corvalin::ExecucaoPostos::pExecutouSemErro(pasta));
-}
-
-TEST_F(Execucao, TheSolversNoticeComesBeforeTheStationsLogLineAndIsDeleted) {
-    DialogoComRegistro dialogo(registro);
-    const halvo::InstalacaoServicos servicos(&dialogo, &host.sistema, &host.halvo);
-    grava(PostoPronto(10, "Alfa"));
-    grava(PostoPronto(20, "Beta"));
-    instrucoes(10, {"aviso Previsão limitada.", "runstate 0"});
-    instrucoes(20, {"aviso", "runstate 0"});
-
-    executa();
-
-    ASSERT_EQ(dialogo.Mensagens().size(), 1u);
-    EXPECT_EQ(dialogo.Mensagens()[0].texto, "Previsão limitada.");
-    EXPECT_EQ(dialogo.Mensagens()[0].titulo, msgTituloInformacao);
-    EXPECT_EQ(dialogo.Mensagens()[0].icone, halvo::Icone::Informacao);
-    EXPECT_THAT(dialogo.LinhasAntes, ElementsAre(0u));
-    EXPECT_FALSE(QFile::exists(arquivoPosto(10, "Aviso.txt")));
-    EXPECT_FALSE(QFile::exists(arquivoPosto(20, "Aviso.txt")));
+    const struct {
+        QStringList linhas;
+        bool semErro;
+    } casos[] = {{{"0"}, true},        {{" 0 ", "1"}, true}, {{QString()}, true}, {{}, true},
+                 {{"terminou"}, true}, {{"1"}, false},       {{" 0.5"}, false}};
+    for (const auto& [linhas, semErro] : casos) {
+        Grava(pasta + QStringLiteral("/RUNSTATE.DAT"), linhas);
+        EXPECT_EQ(corvalin::ExecucaoPostos::pExecutouSemErro(pasta), semErro)
+            << linhas.join(u'|').toStdString();
+    }
 }
 
 TEST_F(Execucao, TheSharedForecastFolderFeedsAStationWithoutForecastAndTakesEveryForecastBack) {
     const QString compartilhada = QDir::toNativeSeparators(host.caminho("previsoes"));
     QDir().mkpath(compartilhada);
     mudaOpcoes([&](corvalin::Opcoes& opcoes) { opcoes.setPastaPrevisoes(compartilhada); });
-    const QString compartilhado10 = compartilhada + QDir::separator() + QStringLiteral("C10.prv");
-    const QString compartilhado20 = compartilhada + QDir::separator() + QStringLiteral("C20.prv");
-    Grava(compartilhado10, {"compartilhado 10"});
-    Grava(compartilhado20, {"compartilhado 20"});
-    grava(PostoPronto(10, "Alfa"));
-    grava(PostoPronto(20, "Beta"));
+    const QString compartilhado = compartilhada + QDir::separator() + QStringLiteral("C%1.prv");
+    Grava(compartilhado.arg(10), {"compartilhado 10"});
+    Grava(compartilhado.arg(20), {"compartilhado 20"});
+    for (const auto& [codigo, nome] : {std::pair{10, "Alfa"}, std::pair{20, "Beta"}}) {
+        grava(PostoPronto(codigo, nome));
+        instrucoes(codigo, {"runstate 0"});
+    }
     QDir().mkpath(pastaPosto(20));
     Grava(arquivoPosto(20, "C20.prv"), {"local 20"});
-    instrucoes(10, {"runstate 0"});
-    instrucoes(20, {"runstate 0"});
 
     executa();
 
     EXPECT_THAT(execucoes(), ElementsAre("10 C10.arq dadosgerais=1 merro=0 previsao=1",
                                          "20 C20.arq dadosgerais=1 merro=0 previsao=1"));
     EXPECT_THAT(LinhasDe(arquivoPosto(10, "C10.prv")), ElementsAre("compartilhado 10"));
-    EXPECT_THAT(LinhasDe(compartilhado20), ElementsAre("local 20"));
+    EXPECT_THAT(LinhasDe(compartilhado.arg(20)), ElementsAre("local 20"));
 }
 
 TEST_F(Execucao, TheStationsEraseFlagsAndTheRemovalOfAnEmptyFolder) {
-    Posto apaga = PostoPronto(10, "Alfa");
-    apaga.Arquivos.ArquivoRelatorio = "REL.DAT.TXT";
-    apaga.Arquivos.ApagarArquivoDadosGerais = true;
-    apaga.Arquivos.ApagarArquivoVazoesSemanais = true;
-    apaga.Arquivos.ApagarArquivoRelatorio = true;
-    apaga.Arquivos.ApagarArquivoExcel = true;
-    grava(apaga);
-    Posto vazia = apaga;
-    vazia.Codigo = 20;
-    vazia.Nome = "Beta";
-    vazia.Arquivos.ArquivoDadosGerais = "C20.arq";
-    vazia.Arquivos.ArquivoVazoesSemanais = "C20.dat";
-    grava(vazia);
+    for (const auto& [codigo, nome] : {std::pair{10, "Alfa"}, std::pair{20, "Beta"}}) {
+        Posto posto = PostoPronto(codigo, nome);
+        posto.Arquivos.ArquivoRelatorio = "REL.DAT.TXT";
+        posto.Arquivos.ApagarArquivoDadosGerais = posto.Arquivos.ApagarArquivoVazoesSemanais = true;
+        posto.Arquivos.ApagarArquivoRelatorio = posto.Arquivos.ApagarArquivoExcel = true;
+        grava(posto);
+    }
     instrucoes(10, {pPrevisao(1), "relatorio r", "planilha", "runstate 0"});
     // A solver that clears away its own control file leaves nothing behind.
     instrucoes(20, {"apaga Caso.dat"});

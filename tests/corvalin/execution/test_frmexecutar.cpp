@@ -86,9 +86,9 @@ private slots:
         }
     }
 
-    // Step 1 and 2 and back: the checks decide the button and survive the way back; the counts of
-    // the validation show. An error (a station deleted meanwhile) stops the run and sends the
-    // user back.
+    // Step 1 and 2 and back: the checks decide the button and survive the way back; only checked
+    // rows are validated, and a warning alone lets the run start. An error (a station deleted
+    // meanwhile) stops the run and sends the user back.
     void passosEValidacao() {
         teste::CasoDeTelas caso;
         caso.adiciona(1234, QStringLiteral("Rio - Alto"));
@@ -129,6 +129,8 @@ private slots:
         clica(*tela, QStringLiteral("BotExecutarMarcar"));
         clica(*tela, Avancar);
         QVERIFY(habilitados(*tela, {"BotExecutarAvancar"}).isEmpty());
+        // A report of its own, not added to the one before.
+        QVERIFY(relatorio(*tela).Texto().startsWith(QStringLiteral("Posto: 30 - Apagado\nPosto apagado.")));
         QCOMPARE(tela->focusWidget()->objectName(), QStringLiteral("BotExecutarVoltar"));
         QCOMPARE(valor(*tela, QStringLiteral("LblExecutarProblemas")), QStringLiteral("1 erro"));
         QCOMPARE(cor(*tela, QStringLiteral("Posto apagado.")), QColor(Qt::red));

@@ -3,9 +3,6 @@
 #include "corvalin/options/Opcoes.h"
 #include "tests/corvalin/execution/CasoExecucao.h"
 
-#include <QDir>
-#include <QFile>
-
 #include <gmock/gmock.h>
 
 namespace teste {
@@ -30,18 +27,20 @@ private:
 
 class Geracao : public CasoExecucao {
 protected:
-    // Two stations; the second with limits and a Vazpast file.
+    // Three stations; Beta with limits and a Vazpast file, Zero with limits its code stops.
     void SetUp() override {
         CasoExecucao::SetUp();
         grava(PostoPronto(10, "Alfa"));
-        Posto comLimites = PostoPronto(20, "Beta");
-        comLimites.FlafVazpast = true;
-        comLimites.NomeArqVazpast = "VAZPAST.dat";
-        comLimites.FlagLimite = 1;
-        comLimites.NomeArqLimite = "C20.lim";
-        comLimites.discretizacao = 2;
-        comLimites.Magnitude = 1;
-        grava(comLimites);
+        for (const auto& [codigo, nome] : {std::pair{20, "Beta"}, std::pair{0, "Zero"}}) {
+            Posto comLimites = PostoPronto(codigo, nome);
+            comLimites.FlafVazpast = codigo != 0;
+            comLimites.NomeArqVazpast = "VAZPAST.dat";
+            comLimites.FlagLimite = 1;
+            comLimites.NomeArqLimite = QStringLiteral("C%1.lim").arg(codigo);
+            comLimites.discretizacao = 2;
+            comLimites.Magnitude = 1;
+            grava(comLimites);
+        }
         assistente().pCarregarPostos();
     }
 };
@@ -52,28 +51,15 @@ TEST_F(Geracao, TheAssistantWritesEachCheckedStationsFilesInItsFolderUnderThePro
 
     EXPECT_THAT(arquivosDe(10), ElementsAre("C10.arq", "C10.dat"));
     EXPECT_THAT(arquivosDe(20), ElementsAre("C20.arq", "C20.dat", "C20.lim", "VAZPAST.dat"));
+    EXPECT_THAT(arquivosDe(0), ElementsAre("C0.arq", "C0.dat"));
     const QString gerando = QStringLiteral("caption %1: ") + corvalin::Mensagens::msgGerandoDadosGerais;
     const QString vazoes = QStringLiteral("caption %1: ") + corvalin::Mensagens::msgGerandoVazoesSemanais;
     EXPECT_THAT(janela.Eventos,
                 ElementsAre("mostra", gerando.arg("10 - Alfa"), "mostra", vazoes.arg("10 - Alfa"),
-                            gerando.arg("20 - Beta"), "mostra", vazoes.arg("20 - Beta"), "esconde"));
+                            gerando.arg("20 - Beta"), "mostra", vazoes.arg("20 - Beta"),
+                            gerando.arg("0 - Zero"), "mostra", vazoes.arg("0 - Zero"), "esconde"));
     // The general data file names the limits file it was written with.
     EXPECT_EQ(LinhasDe(arquivoPosto(20, "C20.arq")).at(14), "1");
-}
-
-TEST_F(Geracao, AStationWithCodeZeroGetsNoLimitsFile) {
-    Posto zero = PostoPronto(0, "Zero");
-    zero.FlagLimite = 1;
-    zero.NomeArqLimite = "C0.lim";
-    zero.discretizacao = 2;
-    grava(zero);
-    lista.Adiciona("0 - Zero");
-    lista.setMarcada(0, false);
-    lista.setMarcada(1, false);
-    lista.setMarcada(2, true);
-    JanelaGravadora janela;
-    assistente().pGerarArquivos(janela);
-    EXPECT_THAT(arquivosDe(0), ElementsAre("C0.arq", "C0.dat"));
 }
 
 // The case's switch against limits reaches the general data and stops the limits file on the

@@ -69,34 +69,6 @@ TEST_F(Validacao, ReportOfACaseWithADeletedStationAShortHistoryABadNameAndAShort
     EXPECT_THAT(host.dialogo.Ponteiros(), ElementsAre(halvo::Ponteiro::Ocupado, halvo::Ponteiro::Padrao));
 }
 
-// Only checked rows are validated, and again from a clean report; a warning alone lets the run
-// start. A name may hold the separator.
-TEST_F(Validacao, OnlyCheckedRowsAreValidatedAndAWarningAloneLetsTheRunStart) {
-    grava(PostoPronto(10, "Alfa", 19));
-    Posto semDados;
-    semDados.Codigo = 20;
-    semDados.Nome = "Beta - com hífen";
-    semDados.AnoInicial = 1990;
-    semDados.AnoFinal = 2009;
-    grava(semDados);
-    EXPECT_TRUE(assistente().pCarregarPostos());
-    EXPECT_EQ(lista.LinhaAtual(), 0);
-    EXPECT_EQ(corvalin::CodigoDaLinha(lista.Texto(1)), 20);
-
-    lista.setMarcada(1, false);
-    EXPECT_TRUE(assistente().pValidar());
-    EXPECT_EQ(assistente().getLblExecutarAlertas() + u'/' + assistente().getLblExecutarProblemas(),
-              "1 aviso/0 erros");
-
-    lista.setMarcada(0, false);
-    lista.setMarcada(1, true);
-    EXPECT_FALSE(assistente().pValidar());
-    EXPECT_THAT(textosDoRegistro(),
-                ElementsAre("Posto: 20 - Beta - com hífen", msgDadosGeraisNaoDefinidos, " ", " "));
-    EXPECT_EQ(assistente().getLblExecutarAlertas() + u'/' + assistente().getLblExecutarProblemas(),
-              "0 avisos/1 erro");
-}
-
 // Each rule at its bounds; the findings come in the rules' order.
 TEST_F(Validacao, RulesAtTheirBounds) {
     Posto posto = PostoPronto(1, "X");
@@ -136,20 +108,15 @@ TEST_F(Validacao, RulesAtTheirBounds) {
                             msgIntervaloInvalido, msgVazpastNaoDefinido));
     posto.NomeArqVazpast = "VP1";
     EXPECT_THAT(achados(&posto), Not(Contains(msgVazpastNaoDefinido)));
-}
 
-// Undefined general data skip the other rules but not the Vazpast one; a station that is gone
-// shows exactly one error.
-TEST_F(Validacao, UndefinedGeneralDataAndADeletedStation) {
-    Posto posto;
-    posto.Codigo = 1;
+    // Undefined general data skip the other rules but not the Vazpast one.
+    posto = Posto();
     posto.AnoInicial = 1990;
     posto.AnoFinal = 2008;
     posto.FlafVazpast = true;
     posto.NomeArqVazpast = "VP";
     EXPECT_THAT(achados(&posto),
                 ElementsAre(msgHistoricoMenos20Anos, msgDadosGeraisNaoDefinidos, msgVazpastNaoDefinido));
-    EXPECT_THAT(achados(nullptr), ElementsAre(msgPostoApagado));
 }
 
 }  // namespace
