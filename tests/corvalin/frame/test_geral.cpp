@@ -19,16 +19,18 @@ TEST(MsgErro, MontaOTextoComRetornosDeCarroEObservacaoSoQuandoHa) {
             QStringLiteral(" ver linha 3 "));
     ASSERT_EQ(host.dialogo.Mensagens().size(), 2u);
     const auto& primeira = host.dialogo.Mensagens()[0];
-    EXPECT_EQ(primeira.texto,
-              QStringLiteral("Durante a execução do programa ocorreu o seguinte erro:\r\rErro.: 13\rDescrição.: "
-                             "Tipos incompatíveis\rRotina.: pGravar\rMódulo.: FrmPostos"));
+    EXPECT_EQ(
+        primeira.texto,
+        QStringLiteral("Durante a execução do programa ocorreu o seguinte erro:\r\rErro.: 13\rDescrição.: "
+                       "Tipos incompatíveis\rRotina.: pGravar\rMódulo.: FrmPostos"));
     EXPECT_EQ(primeira.titulo, QStringLiteral("Atenção..."));
     EXPECT_EQ(primeira.icone, halvo::Icone::Erro);
     EXPECT_TRUE(host.dialogo.Mensagens()[1].texto.endsWith(
         QStringLiteral("Módulo.: FrmOpcoes\r\r\rObservação.:  ver linha 3 ")))
         << "the remark goes untrimmed";
     ASSERT_FALSE(host.dialogo.Ponteiros().empty());
-    EXPECT_EQ(host.dialogo.Ponteiros().front(), halvo::Ponteiro::Seta) << "a busy pointer must not survive an error";
+    EXPECT_EQ(host.dialogo.Ponteiros().front(), halvo::Ponteiro::Seta)
+        << "a busy pointer must not survive an error";
 }
 
 TEST(DimensionaLimites, LimitesPorAgrupamento) {
@@ -56,14 +58,17 @@ TEST(DimensionaLimites, LimitesPorAgrupamento) {
 TEST(LeStringIni, SeparadorDoUsuarioEAsteriscoQuandoFalta) {
     const QLocale anterior;
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
-    EXPECT_EQ(corvalin::LeStringIni(QStringLiteral("WIN.INI"), QStringLiteral("intl"), QStringLiteral("sDecimal")),
-              QStringLiteral(","));
+    EXPECT_EQ(
+        corvalin::LeStringIni(QStringLiteral("WIN.INI"), QStringLiteral("intl"), QStringLiteral("sDecimal")),
+        QStringLiteral(","));
     QLocale::setDefault(QLocale::c());
-    EXPECT_EQ(corvalin::LeStringIni(QStringLiteral("WIN.INI"), QStringLiteral("intl"), QStringLiteral("sDecimal")),
-              QStringLiteral("."));
+    EXPECT_EQ(
+        corvalin::LeStringIni(QStringLiteral("WIN.INI"), QStringLiteral("intl"), QStringLiteral("sDecimal")),
+        QStringLiteral("."));
     QLocale::setDefault(anterior);
-    EXPECT_EQ(corvalin::LeStringIni(QStringLiteral("WIN.INI"), QStringLiteral("intl"), QStringLiteral("sLista")),
-              QStringLiteral("*"));
+    EXPECT_EQ(
+        corvalin::LeStringIni(QStringLiteral("WIN.INI"), QStringLiteral("intl"), QStringLiteral("sLista")),
+        QStringLiteral("*"));
 
     QTemporaryDir dir;
     const QString ini = dir.filePath(QStringLiteral("teste.ini"));
@@ -73,7 +78,8 @@ TEST(LeStringIni, SeparadorDoUsuarioEAsteriscoQuandoFalta) {
     arquivo.close();
     EXPECT_EQ(corvalin::LeStringIni(ini, QStringLiteral("secao"), QStringLiteral("chave")), QString(99, u'x'))
         << "the reader's buffer holds 100 characters with its terminator";
-    EXPECT_EQ(corvalin::LeStringIni(ini, QStringLiteral("secao"), QStringLiteral("outra")), QStringLiteral("*"));
+    EXPECT_EQ(corvalin::LeStringIni(ini, QStringLiteral("secao"), QStringLiteral("outra")),
+              QStringLiteral("*"));
 }
 
 TEST(AbreArquivoGravacao, FazAPastaOuFalhaSemMensagem) {

@@ -266,27 +266,6 @@ private slots:
         QVERIFY(tela->close());
         QVERIFY(caso.host.dialogo.Mensagens().empty());
     }
-
-    // Tab runs in reading order: the station above, the screen's own part, then the buttons.
-    void ordemDeTabulacao() {
-        teste::CasoDeTelas caso;
-        auto tela = teste::carrega<FrmTeste>(caso);
-        QStringList ordem;
-        QWidget* atual = &controle<QLineEdit>(*tela, QStringLiteral("TxtTesteCodigo"));
-        for (int i = 0; i < 9; ++i) {
-            ordem << atual->objectName();
-            atual = atual->nextInFocusChain();
-            while (atual->focusPolicy() == Qt::NoFocus || atual->objectName().isEmpty()) {
-                atual = atual->nextInFocusChain();
-            }
-        }
-        QCOMPARE(ordem,
-                 (QStringList{QStringLiteral("TxtTesteCodigo"), QStringLiteral("CBDTeste"),
-                              QStringLiteral("TxtTesteValor"), QStringLiteral("BotTesteNavegacao_0"),
-                              QStringLiteral("BotTesteNavegacao_1"), QStringLiteral("BotTesteNavegacao_2"),
-                              QStringLiteral("BotTesteNavegacao_3"), QStringLiteral("BotTesteGravar"),
-                              QStringLiteral("BotTesteSair")}));
-    }
 };
 
 QTEST_MAIN(TesteTela)
