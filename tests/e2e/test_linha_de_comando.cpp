@@ -41,7 +41,7 @@ protected:
     // What the test solver does in every station, or in one.
     void instrucoes(const QStringList& linhas, const QString& codigo = {}) const {
         const QString nome =
-            codigo.isEmpty() ? "Instrucoes.txt" : QStringLiteral("Instrucoes_%1.txt").arg(codigo);
+            codigo.isEmpty() ? QString("Instrucoes.txt") : QString("Instrucoes_%1.txt").arg(codigo);
         Grava(caso + u'/' + nome, linhas);
     }
 
@@ -57,7 +57,7 @@ QStringList pBlocos(const Saida& s) {
     const QStringList linhas = s.linhas();
     for (qsizetype i = 0; i + 1 < linhas.size(); ++i) {
         if (linhas[i].startsWith("Posto ")) {
-            blocos << linhas[i].mid(6) + QStringLiteral(": ") + linhas[i + 1];
+            blocos << linhas[i].mid(6) + ": " + linhas[i + 1];
         }
     }
     return blocos;
@@ -74,8 +74,8 @@ TEST_F(LinhaDeComando, MadeImportedRunAndReadTheForecastOfTheSolver) {
     const Saida executar = halvo({"executar", caso});
     ASSERT_EQ(executar.codigo, 0) << executar.erro.toStdString();
     // The host's road runs every station twice, in two passes over the catalogue.
-    const QString alfa = QStringLiteral("101 - Rio Alfa em Primeira: ") + Sucesso;
-    const QString beta = QStringLiteral("202 - Rio Beta em São José: ") + Sucesso;
+    const QString alfa = "101 - Rio Alfa em Primeira: " + Sucesso;
+    const QString beta = "202 - Rio Beta em São José: " + Sucesso;
     EXPECT_THAT(pBlocos(executar), ElementsAre(alfa, beta, alfa, beta));
 
     const Saida previsoes = halvo({"previsoes", caso});
@@ -96,8 +96,8 @@ TEST_F(LinhaDeComando, MadeImportedRunAndReadTheForecastOfTheSolver) {
 TEST_F(LinhaDeComando, ACrashASilentSolverAndAVerdictOfOneEndInErrorAndTheNextStationRuns) {
     ASSERT_EQ(importaDados().codigo, 0);
     instrucoes({"runstate 0"}, "202");
-    const QString alfaFalhou = QStringLiteral("101 - Rio Alfa em Primeira: ") + Falha;
-    const QString betaBem = QStringLiteral("202 - Rio Beta em São José: ") + Sucesso;
+    const QString alfaFalhou = "101 - Rio Alfa em Primeira: " + Falha;
+    const QString betaBem = "202 - Rio Beta em São José: " + Sucesso;
 
     for (const QString& falha : QStringList{QString(), "aborta", "runstate 1"}) {
         instrucoes({falha}, "101");
@@ -139,10 +139,10 @@ TEST_F(LinhaDeComando, ValidationOfTheWholeCaseOrOfTheCodesGiven) {
 
     // Errors stop the assistant before any solver starts.
     EXPECT_EQ(halvo({"assistente", caso}).codigo, 2);
-    EXPECT_FALSE(QFile::exists(caso + QStringLiteral("/Execucoes.txt")));
+    EXPECT_FALSE(QFile::exists(caso + "/Execucoes.txt"));
     const Saida soBeta = halvo({"assistente", caso, "202"});
     EXPECT_EQ(soBeta.codigo, 0);
-    EXPECT_THAT(LinhasDe(caso + QStringLiteral("/Execucoes.txt")), ElementsAre(Contem("202 202.arq")));
+    EXPECT_THAT(LinhasDe(caso + "/Execucoes.txt"), ElementsAre(Contem("202 202.arq")));
 }
 
 TEST_F(LinhaDeComando, TheImportReportsProblemsAndFailsWithoutTouchingTheCase) {
