@@ -25,17 +25,18 @@ QString linhaDoPosto(const QString& codigo, const QStringList& valores) {
 }
 
 TEST(PreparaFoat, DuasCasasComOSeparadorEscolhido) {
-    const struct {
-        const char* entrada;
-        bool usaPonto;
-        const char* saida;
-    } casos[] = {{"12", true, "12.00"}, {"12,34", true, "12.34"}, {"12.345", true, "12.345"},
-                 {".", true, ".00"},    {"-7", true, "-7.00"},    {"1,5", true, "1.50"},
-                 {"", true, ".00"},     {"12.5", false, "12,50"}, {"7", false, "7,00"}};
-    for (const auto& c : casos) {
-        QString valor = QString::fromLatin1(c.entrada);
-        EXPECT_EQ(PostoARQ::preparaFoat_10_2(valor, c.usaPonto), QString::fromLatin1(c.saida)) << c.entrada;
-        EXPECT_EQ(valor, QString::fromLatin1(c.saida)) << "changed in place";
+    for (const auto& [entrada, usaPonto, saida] : {std::tuple{"12", true, "12.00"},
+                                                   {"12,34", true, "12.34"},
+                                                   {"12.345", true, "12.345"},
+                                                   {".", true, ".00"},
+                                                   {"-7", true, "-7.00"},
+                                                   {"1,5", true, "1.50"},
+                                                   {"", true, ".00"},
+                                                   {"12.5", false, "12,50"},
+                                                   {"7", false, "7,00"}}) {
+        QString valor = QString::fromLatin1(entrada);
+        EXPECT_EQ(PostoARQ::preparaFoat_10_2(valor, usaPonto), QString::fromLatin1(saida)) << entrada;
+        EXPECT_EQ(valor, QString::fromLatin1(saida)) << "changed in place";
     }
 }
 
