@@ -83,26 +83,32 @@ std::vector<std::string> arquivoVazoes(int codigo, const std::string& nome, int 
 std::vector<std::string> arquivoDadosGerais(const DadosGeraisTeste& d) {
     const bool limites = d.flagLimite != 0;
     return {"1234.rel",
-            d.imprime ? "S" : "N",
+            "S",
             "1234.dat",
-            std::to_string(d.transformacao),
+            "5",
             "1",
             "1234.prv",
             "1234.exc",
-            std::to_string(d.confianca),
+            "95",
             std::to_string(d.semanaInicialPrev),
             std::to_string(d.anoInicialPrev),
             d.usaVazpast ? "0" : "1",
             d.usaVazpast ? "Vazpast.dat" : "",
             std::to_string(d.anoFinalHistorico),
-            std::to_string(d.codigo),
+            "1234",
             limites ? std::to_string(d.flagLimite) : " 0 ",
             limites ? "1234.lim" : "",
             "0"};
 }
 
-Processo processo(double phi1, double phi2, double desvioRuido) {
-    return {std::vector<double>(semanasDoAno, phi1), std::vector<double>(semanasDoAno, phi2), desvioRuido};
+Processo processo(double phi1, double phi2, double desvioRuido, double nivel, double escala,
+                  double escalaSazonal) {
+    return {std::vector<double>(semanasDoAno, phi1),
+            std::vector<double>(semanasDoAno, phi2),
+            desvioRuido,
+            nivel,
+            escala,
+            escalaSazonal};
 }
 
 std::vector<double> simula(const Processo& p, int anos, unsigned semente) {
@@ -142,7 +148,7 @@ void montaEstacao(const std::filesystem::path& pasta, const DadosGeraisTeste& d,
     }
     escreve(pasta / "Caso.dat", {"1234.arq"});
     escreve(pasta / "1234.arq", arquivoDadosGerais(d));
-    escreve(pasta / "1234.dat", arquivoVazoes(d.codigo, "Posto Sintético", anoInicial, ate));
+    escreve(pasta / "1234.dat", arquivoVazoes(1234, "Posto Sintético", anoInicial, ate));
 }
 
 }  // namespace teste

@@ -30,16 +30,13 @@ std::string leBytes(const std::filesystem::path& arquivo);
 std::vector<std::string> arquivoVazoes(int codigo, const std::string& nome, int anoInicial,
                                        const std::vector<std::vector<double>>& anos);
 
+// General data of station 1234: its files named "1234.*", transformation code 5, 95%.
 struct DadosGeraisTeste {
-    int transformacao = 5;
     int semanaInicialPrev = 1;
     int anoInicialPrev = 0;
     int anoFinalHistorico = 0;
-    int codigo = 1234;
     bool usaVazpast = false;
     int flagLimite = 0;
-    bool imprime = true;
-    int confianca = 95;
 };
 std::vector<std::string> arquivoDadosGerais(const DadosGeraisTeste& d);
 
@@ -55,7 +52,8 @@ struct Processo {
 };
 inline constexpr int semanasDoAno = 52;
 // The same weights every week.
-Processo processo(double phi1, double phi2, double desvioRuido);
+Processo processo(double phi1, double phi2, double desvioRuido, double nivel = 4.0, double escala = 0.4,
+                  double escalaSazonal = 0.1);
 // The flows of anos years, from a fixed seed.
 std::vector<double> simula(const Processo& p, int anos, unsigned semente);
 // The same split into years and rounded to hundredths, as a weekly flows file holds them.

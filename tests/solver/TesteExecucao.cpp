@@ -50,16 +50,8 @@ protected:
     // 31 years of a lognormal first-order autoregression, forecast from week 20 of 2000.
     teste::DadosGeraisTeste dados_{
         .semanaInicialPrev = 20, .anoInicialPrev = 2000, .anoFinalHistorico = 2000};
-    std::vector<std::vector<double>> anos_ = teste::anosDe(teste::simula(pSinteticos(), 31, 3));
-
-private:
-    static teste::Processo pSinteticos() {
-        teste::Processo p = teste::processo(0.7, 0.0, std::sqrt(1.0 - 0.7 * 0.7));
-        p.nivel = 3.0;
-        p.escala = 0.5;
-        p.escalaSazonal = 0.0;
-        return p;
-    }
+    std::vector<std::vector<double>> anos_ = teste::anosDe(
+        teste::simula(teste::processo(0.7, 0.0, std::sqrt(1.0 - 0.7 * 0.7), 3.0, 0.5, 0.0), 31, 3));
 };
 
 // The last three lines: a label in 24 columns and six values of 9 columns, read as the plug-in

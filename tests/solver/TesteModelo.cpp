@@ -122,16 +122,6 @@ TEST(Transformacao, IdaEVoltaDeCadaTipoEExpoenteBoxCoxEstimado) {
     }
 }
 
-TEST(Transformacao, CandidatasDeCadaCodigo) {
-    using enum TipoTransformacao;
-    const std::vector<std::vector<TipoTransformacao>> esperadas = {
-        {nenhuma}, {logaritmica, nenhuma},        {boxCox, nenhuma}, {logaritmica},
-        {boxCox},  {logaritmica, boxCox, nenhuma}};
-    for (std::size_t codigo = 0; codigo < esperadas.size(); ++codigo) {
-        EXPECT_EQ(solver::candidatas(static_cast<int>(codigo)), esperadas[codigo]) << "código " << codigo;
-    }
-}
-
 TEST(Estatistica, QuantilInterpolaEntreEstatisticasDeOrdem) {
     const std::vector<double> v = {4.0, 1.0, 3.0, 2.0};
     EXPECT_DOUBLE_EQ(solver::quantil(v, 0.5), 2.5);
