@@ -294,6 +294,22 @@ private slots:
         QCOMPARE(mensagens(caso.host.dialogo), QStringList{u"Erro|Erro ao ler o arquivo."_s});
     }
 
+    // By keyboard alone: a tab's accelerator takes the user into its first field, and a button's
+    // presses it.
+    void aceleradores() {
+        teste::CasoDeTelas caso;
+        adiciona(caso, 101, u"Alfa"_s);
+        auto tela = teste::carrega<corvalin::FrmDadosGerais>(caso);
+        tela->show();
+        QVERIFY(QTest::qWaitForWindowActive(tela.get()));
+        QTest::keyClick(tela.get(), Qt::Key_2, Qt::AltModifier);
+        QCOMPARE(teste::controle<QTabWidget>(*tela, u"GiiDadosGerais"_s).currentIndex(), 1);
+        QCOMPARE(QApplication::focusWidget()->objectName(), u"OptDadosGeraisTransformacao_1"_s);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_G, Qt::AltModifier);
+        QTRY_COMPARE(lePosto(caso, 101).Transformacao, 2);
+    }
+
     // A read-only case: the write buttons are off, typing changes nothing, leaving asks nothing.
     void casoSomenteLeitura() {
         teste::CasoDeTelas caso(true);

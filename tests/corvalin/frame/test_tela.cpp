@@ -266,6 +266,23 @@ private slots:
         QVERIFY(tela->close());
         QVERIFY(caso.host.dialogo.Mensagens().empty());
     }
+    // The frame's own controls follow the screen's fields in the tab order: code, record list,
+    // fields, navigation, write and leave.
+    void ordemDeTabulacao() {
+        teste::CasoDeTelas caso;
+        auto tela = teste::carrega<FrmTeste>(caso);
+        QStringList ordem;
+        QWidget* atual = &controle<QLineEdit>(*tela, QStringLiteral("TxtTesteCodigo"));
+        for (int i = 0; i < 9; ++i) {
+            ordem << atual->objectName();
+            do {
+                atual = atual->nextInFocusChain();
+            } while (atual->focusPolicy() == Qt::NoFocus || atual->objectName().isEmpty());
+        }
+        QCOMPARE(ordem.join(u' '), QStringLiteral("TxtTesteCodigo CBDTeste TxtTesteValor BotTesteNavegacao_0 "
+                                                  "BotTesteNavegacao_1 BotTesteNavegacao_2 BotTesteNavegacao_3 "
+                                                  "BotTesteGravar BotTesteSair"));
+    }
 };
 
 QTEST_MAIN(TesteTela)

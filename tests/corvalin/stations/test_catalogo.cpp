@@ -2,6 +2,7 @@
 
 #include "platform/runtime/ErroVB.h"
 
+#include <optional>
 #include <tuple>
 
 namespace {
@@ -267,6 +268,21 @@ TEST_F(CatalogoTeste, ApagarTiraCatalogoDadosGeraisEHistoricoEMaisNada) {
     EXPECT_EQ(caso.linhas(u"VazoesPrevistas"_s, 4), 1);
     EXPECT_EQ(caso.linhas(u"LimitesPrevisao"_s, 4, u"Codigo"_s), 1);
     EXPECT_EQ(postos().Index(), PorNome);
+}
+
+// Each store closes the tables it opened when it ends, and only those: another store of the same
+// case keeps them.
+TEST(LojaDePostosTeste, CadaLojaFechaAsTabelasQueAbriu) {
+    teste::CasoAberto caso;
+    std::optional<corvalin::PostoBD> a(std::in_place);
+    std::optional<corvalin::PostoBD> b(std::in_place);
+    a->setCasoBD(caso.bd);
+    b->setCasoBD(caso.bd);
+    b->setCasoBD(caso.bd);  // a second call does not count twice
+    b.reset();
+    EXPECT_NO_THROW(caso.bd->TabPostos()) << "the other store still holds them";
+    a.reset();
+    EXPECT_THROW(caso.bd->TabPostos(), plataforma::ErroVB);
 }
 
 }  // namespace

@@ -329,16 +329,33 @@ private slots:
         QCOMPARE(t.codigo().text(), u"101"_s);
     }
 
-    // Enter leaves the grid as Tab would.
-    void enterSaiDaGrade() {
+    // By keyboard alone: Tab follows the fields in reading order, Enter leaves the grid as Tab
+    // would, and a button's accelerator clicks it on the next turns of the event loop.
+    void teclado() {
         CasoComAlfa caso;
         const Frm t(caso);
         t.tela->show();
         QVERIFY(QTest::qWaitForWindowActive(t.tela.get()));
+        const auto temFoco = [](const QWidget& controle) {
+            QWidget* foco = QApplication::focusWidget();
+            return foco == &controle || controle.isAncestorOf(foco);
+        };
+        t.nome().setFocus();
         QWidget* tabela = t.grade().findChild<QTableView*>();
-        tabela->setFocus();
+        for (const QWidget* esperado :
+             std::initializer_list<const QWidget*>{&t.area(), &t.ano(0), &t.ano(1), tabela}) {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            QVERIFY(temFoco(*esperado));
+        }
         QTest::keyClick(tabela, Qt::Key_Return);
         QCOMPARE(QApplication::focusWidget()->objectName(), u"BotPostosNavegacao_0"_s);
+
+        QTest::keyClick(t.tela.get(), Qt::Key_N, Qt::AltModifier);
+        QTRY_VERIFY(t.codigo().isEnabled());
+        QVERIFY(temFoco(t.nome()));
+        QTest::keyClick(t.tela.get(), Qt::Key_P, Qt::AltModifier);
+        QTRY_COMPARE(caso.mensagens(), std::size_t{1});
+        QCOMPARE(caso.ultima().texto, u"Não há um registro para ser excluído."_s);
     }
 };
 
