@@ -3,8 +3,6 @@
 #include "platform/recordstore/Recordstore.h"
 #include "tests/platform/runtime/Casos.h"
 
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <cstdint>
@@ -55,20 +53,6 @@ inline Inteiros todos(Recordset& rs, const char* campo) {
     }
     rs.MoveFirst();
     return ateOFim(rs, campo);
-}
-
-// Runs the sqlite3 command-line shell on a file; empty when the shell is not installed.
-inline QString sqlite3(const QString& arquivo, const QString& comandos) {
-    const QString programa = QStandardPaths::findExecutable(u"sqlite3"_s);
-    if (programa.isEmpty()) {
-        return {};
-    }
-    QProcess p;
-    p.start(programa, {arquivo});
-    p.write(comandos.toUtf8());
-    p.closeWriteChannel();
-    p.waitForFinished();
-    return QString::fromUtf8(p.readAllStandardOutput() + p.readAllStandardError());
 }
 
 // A fresh database in a folder of its own, with the two shapes of table the stores use most: a

@@ -46,33 +46,6 @@ TEST_F(Esquema, AReopenedFileHasTheSameFieldsAndIndexes) {
                   ERRO(adiciona(*rs, {{"Chave", 4}, {"Livre", QString()}, {"Nome", QString()}}), 3315)});
 }
 
-TEST_F(Esquema, AFileMadeByHandWithTheDeclaredTypesWorksAlike) {
-    bd->Close();
-    const QString feito = caminho(u"manual.mdb"_s);
-    sqlite3(feito,
-            u"CREATE TABLE Postos (CodigoDoPosto long, NomeDoAproveitamento text(60), "
-            "Flag byte, Area Single DEFAULT 2.5);"
-            "CREATE UNIQUE INDEX \"Postos.CodigoDoPosto\" ON Postos (CodigoDoPosto);"
-            "CREATE INDEX \"Postos.Nome\" ON Postos (NomeDoAproveitamento);"
-            "INSERT INTO Postos VALUES (1, 'caconde', 1, 1), (2, 'FURNAS', 2, 2), (3, 'Barra', 3, 3);"_s);
-    if (!QFile::exists(feito)) {
-        GTEST_SKIP() << "sqlite3 is not installed";
-    }
-    bd = Database::OpenDatabase(feito);
-    EXPECT_EQ(descricao(bd->Fields(u"Postos"_s)),
-              descricao({{u"CodigoDoPosto"_s, Tipo::Long, 0, false, {}},
-                         {u"NomeDoAproveitamento"_s, Tipo::Texto, 60, true, {}},
-                         {u"Flag"_s, Tipo::Byte, 0, false, {}},
-                         {u"Area"_s, Tipo::Single, 0, false, 2.5}}));
-    auto rs = bd->OpenRecordset(u"Postos"_s);
-    rs->setIndex(u"Nome"_s);
-    EXPECT_EQ(ateOFim(*rs, "CodigoDoPosto"), (Inteiros{3, 1, 2}));  // not the binary order
-    rs->Seek(u"="_s, {u"furnas"_s});
-    ASSERT_FALSE(rs->NoMatch());
-    EXPECT_EQ(inteiro(*rs, "Flag"), 2);
-    EXPECT_EQ(numeroDoErro([&] { adiciona(*rs, {{"CodigoDoPosto", 2}}); }), 3022);
-}
-
 TEST_F(Esquema, FilesAndTablesReportTheEnginesErrors) {
     criaPostos();
     const auto campo = [](const char* nome) { return CreateField(QString::fromLatin1(nome), Tipo::Integer); };
@@ -97,36 +70,4 @@ TEST_F(Esquema, FilesAndTablesReportTheEnginesErrors) {
     lixo.close();
     bd = Database::OpenDatabase(lixo.fileName());
     EXPECT_EQ(numeroDoErro([&] { bd->OpenRecordset(u"CasoCORVALIN"_s); }), 3343);
-}
-
-TEST_F(Esquema, SchemaChangesKeepOpenHandlesWorking) {
-    criaVazoes();
-    auto andando = bd->OpenRecordset(u"VazoesSemanais"_s);
-    auto parado = bd->OpenRecordset(u"VazoesSemanais"_s);
-    for (int semana = 1; semana <= 5; ++semana) {
-        adicionaVazao(*andando, 1, 2000, semana, semana);
-    }
-    andando->setIndex(u"CodigoDoPostoAnoSemana"_s);
-    andando->MoveNext();
-    parado->MoveLast();
-
-    bd->Execute(u"alter table VazoesSemanais add column CasoUsa53Semanas byte;"_s);
-    EXPECT_EQ(andando->FieldCount(), 5);
-    EXPECT_EQ(bd->Fields(u"VazoesSemanais"_s).back().Type, Tipo::Byte);
-    andando->MoveNext();
-    EXPECT_EQ(inteiro(*andando, "Semana"), 3);
-    EXPECT_TRUE(andando->campo(u"CasoUsa53Semanas"_s).nulo());  // existing rows hold Null
-    EXPECT_EQ(inteiro(*parado, "Semana"), 5);
-
-    bd->AppendField(u"VazoesSemanais"_s, CreateField(u"Obs"_s, Tipo::Texto, 10));
-    parado->Edit();
-    parado->setCampo(u"Obs"_s, u"cheia"_s);
-    parado->Update();
-    EXPECT_EQ(texto(*parado, "Obs"), u"cheia"_s);
-    EXPECT_TRUE(andando->campo(u"Obs"_s).nulo());
-
-    bd->Execute(u"DELETE FROM VazoesSemanais WHERE Semana >= 3"_s);
-    EXPECT_EQ(numeroDoErro([&] { andando->campo(u"Semana"_s); }), 3167);
-    andando->MovePrevious();
-    EXPECT_EQ(inteiro(*andando, "Semana"), 2);
 }

@@ -2,10 +2,7 @@
 
 #include <QFile>
 
-#include <atomic>
-#include <chrono>
 #include <stdexcept>
-#include <thread>
 
 using recordstore::Transacao;
 
@@ -132,40 +129,4 @@ TEST_F(Transacoes, TwoHandlesOnOneTableSeeEachOthersWrites) {
     EXPECT_EQ(numeroDoErro([&] { postos->campo(u"CodigoDoPosto"_s); }), 3167);
     postos->MoveNext();
     EXPECT_EQ(inteiro(*postos, "CodigoDoPosto"), 30);
-
-    // Another connection to the file: its reads may lag a commit by a moment, but a transaction
-    // of its own always starts from the latest one.
-    auto segundo = Database::OpenDatabase(caminho());
-    auto dele = segundo->OpenRecordset(u"Postos"_s);
-    EXPECT_EQ(todos(*dele, "CodigoDoPosto").size(), 4u);
-    {
-        Transacao t(*bd);
-        adicionaPosto(*outro, 50, u"P50"_s);
-        t.Commit();
-    }
-    Transacao t(*segundo);
-    EXPECT_EQ(todos(*dele, "CodigoDoPosto").size(), 5u);
-}
-
-TEST_F(Transacoes, ASecondWriterWaitsForTheFirstRatherThanFailing) {
-    auto segundo = Database::OpenDatabase(caminho());
-    bd->BeginTrans();  // takes the write lock at once, before writing anything
-    std::atomic<bool> entrou{false};
-    int erro = -1;
-    std::thread outro([&] {
-        erro = numeroDoErro([&] {
-            segundo->BeginTrans();
-            entrou = true;
-            auto rs = segundo->OpenRecordset(u"Postos"_s);
-            adicionaPosto(*rs, 2, u"Dois"_s);
-            segundo->CommitTrans();
-        });
-    });
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
-    EXPECT_FALSE(entrou);
-    adicionaPosto(*postos, 1, u"Um"_s);
-    bd->CommitTrans();
-    outro.join();
-    EXPECT_EQ(erro, 0);
-    EXPECT_EQ(codigos(), (Inteiros{1, 2}));
 }
