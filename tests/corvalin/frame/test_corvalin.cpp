@@ -1,7 +1,7 @@
 #include "corvalin/casedb/casoBD.h"
 #include "corvalin/frame/Corvalin.h"
+#include "corvalin/frame/Geral.h"
 #include "halvo/sdk/NotificadorRegistro.h"
-#include "platform/runtime/ErroVB.h"
 #include "tests/doubles/HostTeste.h"
 
 #include <QDir>
@@ -13,57 +13,26 @@ namespace {
 
 using corvalin::Corvalin;
 
-// Records which screen was asked for, instead of making one.
-class AberturaGravadora : public corvalin::AberturaTelas {
-public:
-    explicit AberturaGravadora(std::vector<QString>& abertas) : mAbertas(abertas) {}
-    bool Abrir(const QString& tela, const corvalin::ObjetosCaso& objetos, std::int16_t, std::int32_t,
-               QObject*) override {
-        EXPECT_TRUE(objetos.casoBD && objetos.CamadaAcesso) << "every screen gets the case's objects";
-        mAbertas.push_back(tela);
-        return true;
-    }
-
-private:
-    std::vector<QString>& mAbertas;
-};
-
-// Construction tells the host its model; the interface version is "3." and the project's three parts.
-TEST(Corvalin, RegistraOModeloNoHost) {
+TEST(MsgErro, MontaOTextoComRetornosDeCarroEObservacaoSoQuandoHa) {
     teste::HostTeste host;
-    Corvalin modelo;
-    EXPECT_EQ(host.halvo.Modelos, std::vector<std::int16_t>{6});
-    EXPECT_TRUE(modelo.VersaoInterface().startsWith(QStringLiteral("3.")));
-    EXPECT_EQ(modelo.VersaoInterface().count(u'.'), 3);
-}
-
-TEST(Corvalin, TabelaDeTelasPorGrupo) {
-    teste::HostTeste host;
-    std::vector<QString> abertas;
-    Corvalin modelo(std::make_unique<AberturaGravadora>(abertas));
-    ASSERT_EQ(modelo.Telas(1)->size(), 5u) << "position 0 stays empty";
-    EXPECT_TRUE((*modelo.Telas(1))[0].Titulo.isEmpty());
-    EXPECT_FALSE(modelo.Telas(5).has_value());
-    EXPECT_FALSE(modelo.Telas(0).has_value());
-
-    EXPECT_EQ(modelo.JanelaAbrir(5, 1, nullptr), 0);
-    EXPECT_EQ(modelo.JanelaAbrir(1, 5, nullptr), 0);
-    EXPECT_TRUE(abertas.empty());
-    EXPECT_EQ(modelo.JanelaAbrir(3, 1, nullptr), 1);
-    EXPECT_EQ(modelo.JanelaAbrir(2, 4, nullptr), 1);
-    EXPECT_EQ(abertas, (std::vector<QString>{QStringLiteral("FrmPostos"), QStringLiteral("FrmGrafico")}));
-}
-
-TEST(Corvalin, CodigoDoCasoSemGuarda) {
-    teste::HostTeste host;
-    Corvalin modelo;
-    ASSERT_EQ(modelo.CriarCaso(host.caminho(QStringLiteral("c"))), 1);
-    auto caso = std::make_shared<teste::CasoTeste>(host.caminho(QStringLiteral("c")));
-    ASSERT_EQ(modelo.AbrirCaso(caso, std::make_shared<halvo::NotificadorRegistro>()), 1);
-    EXPECT_EQ(modelo.CodigoDoCaso(), 7);
-    caso->setItem(QStringLiteral("Codigo"), QStringLiteral("sete"));
-    EXPECT_THROW(modelo.CodigoDoCaso(), plataforma::ErroVB);
-    EXPECT_EQ(modelo.FecharCaso(), 1);
+    corvalin::MsgErro(13, QStringLiteral("Tipos incompatíveis"), QStringLiteral("pGravar"),
+                      QStringLiteral("FrmPostos"), QStringLiteral("   "));
+    corvalin::MsgErro(6, QStringLiteral("Estouro"), QStringLiteral("Form_Load"), QStringLiteral("FrmOpcoes"),
+                      QStringLiteral(" ver linha 3 "));
+    ASSERT_EQ(host.dialogo.Mensagens().size(), 2u);
+    const auto& primeira = host.dialogo.Mensagens()[0];
+    EXPECT_EQ(
+        primeira.texto,
+        QStringLiteral("Durante a execução do programa ocorreu o seguinte erro:\r\rErro.: 13\rDescrição.: "
+                       "Tipos incompatíveis\rRotina.: pGravar\rMódulo.: FrmPostos"));
+    EXPECT_EQ(primeira.titulo, QStringLiteral("Atenção..."));
+    EXPECT_EQ(primeira.icone, halvo::Icone::Erro);
+    EXPECT_TRUE(host.dialogo.Mensagens()[1].texto.endsWith(
+        QStringLiteral("Módulo.: FrmOpcoes\r\r\rObservação.:  ver linha 3 ")))
+        << "the remark goes untrimmed";
+    ASSERT_FALSE(host.dialogo.Ponteiros().empty());
+    EXPECT_EQ(host.dialogo.Ponteiros().front(), halvo::Ponteiro::Seta)
+        << "a busy pointer must not survive an error";
 }
 
 TEST(Corvalin, CopiaSoComCasoAbertoEUmaVezPorAbertura) {
@@ -84,7 +53,6 @@ TEST(Corvalin, CopiaSoComCasoAbertoEUmaVezPorAbertura) {
                                std::make_shared<halvo::NotificadorRegistro>()),
               1);
     EXPECT_EQ(modelo.CopiarCaso(de, para), 1);
-    EXPECT_TRUE(de.endsWith(QDir::separator()));
     const QStringList copiados = QDir(para).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
     EXPECT_EQ(copiados, (QStringList{QStringLiteral("Corvalin.mdb"), QStringLiteral("notas.txt")}))
         << "files only: station folders stay behind";
