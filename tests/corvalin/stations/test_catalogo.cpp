@@ -1,5 +1,6 @@
 #include "tests/corvalin/stations/PostosTeste.h"
 
+#include "corvalin/options/Opcoes.h"
 #include "platform/runtime/ErroVB.h"
 
 #include <optional>
@@ -85,22 +86,15 @@ protected:
     Recordset& postos() const { return caso.bd->TabPostos(); }
 };
 
-TEST_F(CatalogoTeste, UmPostoCompletoVoltaComoFoiGravado) {
+TEST_F(CatalogoTeste, BuscaPorCodigoLeTudoEDeixaOIndiceDoChamadorNaLinhaAchada) {
     Posto p = pCompleto(77, u"Sobradinho"_s);
     ASSERT_TRUE(postoBD.setPosto(p));
     EXPECT_EQ(pGuardado(le(77)), pGuardado(pCompleto(77, u"Sobradinho"_s)));
-}
-
-TEST_F(CatalogoTeste, BuscaPorCodigoDeixaOIndiceDoChamadorNaLinhaAchada) {
     adicionaQuatro();
     EXPECT_EQ(busca(corvalin::BuscaPorCodigo, 3), 3);
     EXPECT_EQ(postos().Index(), PorNome);
     postos().MoveNext();
-    EXPECT_EQ(busca(corvalin::BuscaAtual), 1) << "the row found, in name order";
-
-    postos().setIndex(PorCodigo);
-    EXPECT_EQ(busca(corvalin::BuscaPorCodigo, 2), 2);
-    EXPECT_EQ(postos().Index(), PorCodigo);
+    EXPECT_EQ(busca(corvalin::BuscaAtual), 77) << "the row found, in name order";
 
     Posto anterior = pCompleto(9, u"antes"_s);
     EXPECT_FALSE(postoBD.getPosto(anterior, corvalin::BuscaPorCodigo, 99, {}));
@@ -130,36 +124,7 @@ TEST_F(CatalogoTeste, NavegacaoAndaNaOrdemDoIndiceDadoEParaNasPontas) {
     EXPECT_EQ(busca(corvalin::BuscaAtual), 0) << "past the end stands on no station";
 }
 
-// A missing general-data row leaves its members as the object held them, in either table.
-TEST_F(CatalogoTeste, LinhaDeDadosGeraisAusenteDeixaOQueOObjetoTinha) {
-    Posto completo = pCompleto(5, u"Cheio"_s);
-    ASSERT_TRUE(postoBD.setPosto(completo));
-    adiciona(6, u"Vazio"_s);
-    Posto p = le(5);
-    ASSERT_TRUE(postoBD.getPosto(p, corvalin::BuscaPorCodigo, 6, {}));
-    EXPECT_EQ(p.Nome, u"Vazio"_s);
-    EXPECT_EQ(p.MesInicial, 7) << "the previous station's general data";
-    EXPECT_EQ(p.SemanaInicialPrev, 12);
-
-    // Deleting keeps the complement: the station added again reads it, with defaults beside it.
-    postoBD.delPosto(completo);
-    adiciona(5, u"De novo"_s);
-    plataforma::Vetor<Posto> todos;
-    postoBD.getPostos(todos);
-    ASSERT_EQ(todos[1].Codigo, 5);
-    for (const Posto& novo : {le(5), todos[1]}) {
-        EXPECT_EQ(novo.MesInicial, 0);
-        EXPECT_EQ(novo.Arquivos.ArquivoRelatorio, QString());
-        EXPECT_EQ(novo.SemanaInicialPrev, 12);
-        EXPECT_EQ(novo.discretizacao, 2);
-    }
-}
-
 TEST_F(CatalogoTeste, ListaEmOrdemDeNomeComSuasTresDiferencas) {
-    plataforma::Vetor<Posto> todos;
-    postoBD.getPostos(todos);
-    EXPECT_EQ(todos.UBound(), 0);
-
     Posto semVazpast = pCompleto(1, u"B sem"_s);
     semVazpast.FlafVazpast = false;
     Posto curto = pCompleto(2, u"A curto"_s);
@@ -168,6 +133,7 @@ TEST_F(CatalogoTeste, ListaEmOrdemDeNomeComSuasTresDiferencas) {
     for (Posto* p : {&semVazpast, &curto, &comVazpast}) {
         ASSERT_TRUE(postoBD.setPosto(*p));
     }
+    plataforma::Vetor<Posto> todos;
     postoBD.getPostos(todos);
     ASSERT_EQ(todos.UBound(), 3);
     EXPECT_EQ(std::tuple(todos[1].Codigo, todos[2].Codigo, todos[3].Codigo), std::tuple(2, 1, 3));
@@ -187,8 +153,10 @@ TEST_F(CatalogoTeste, ListaEmOrdemDeNomeComSuasTresDiferencas) {
     EXPECT_EQ(pGuardado(todos[3]), pGuardado(comVazpast)) << "the list never reads FlagLimite";
 }
 
+// A save of the catalogue alone leaves the general data already stored.
 TEST_F(CatalogoTeste, NomeDeOutroCodigoRecusaSemDistinguirCaixa) {
-    adiciona(1, u"FURNAS"_s);
+    Posto furnas = pCompleto(1, u"FURNAS"_s);
+    ASSERT_TRUE(postoBD.setPosto(furnas));
     Posto outro = pCompleto(2, u"furnas"_s);
     postos().setIndex(PorCodigo);
     EXPECT_FALSE(postoBD.setPosto(outro));
@@ -199,55 +167,11 @@ TEST_F(CatalogoTeste, NomeDeOutroCodigoRecusaSemDistinguirCaixa) {
     EXPECT_TRUE(postoBD.setPosto(outro)) << "accents tell names apart";
 
     Posto renomeado = adiciona(1, u"Furnas"_s);
-    renomeado.Area = 5.5f;
-    EXPECT_TRUE(postoBD.setPosto(renomeado)) << "the station's own name is a save, in another case too";
-    EXPECT_EQ(le(1).Nome, u"Furnas"_s);
-    EXPECT_EQ(le(1).Area, 5.5f);
-    EXPECT_EQ(caso.linhas(u"Postos"_s, 1), 1);
-    EXPECT_EQ(caso.linhas(u"DadosGerais"_s, 1), 0) << "empty general data write no row";
-}
-
-TEST_F(CatalogoTeste, DadosGeraisVaziosNaoTocamALinhaExistente) {
-    Posto p = pCompleto(8, u"Xingó"_s);
-    ASSERT_TRUE(postoBD.setPosto(p));
-    Posto soCatalogo = adiciona(8, u"XINGÓ"_s);
-    soCatalogo.SemanaInicialPrev = 30;
-    ASSERT_TRUE(soCatalogo.DadosGeraisVazios()) << "the complement alone is no general data";
-    ASSERT_TRUE(postoBD.setPosto(soCatalogo));
-    EXPECT_EQ(le(8).MesInicial, 7);
-    EXPECT_EQ(le(8).SemanaInicialPrev, 12);
-    EXPECT_EQ(le(8).AnoInicial, 0) << "the catalogue row was saved";
-    EXPECT_EQ(le(8).Nome, u"XINGÓ"_s);
-}
-
-TEST_F(CatalogoTeste, SetDadosGeraisFazAsDuasLinhasEGravaBrancoSemArquivo) {
-    Posto p;
-    p.Codigo = 12;
-    p.FlafVazpast = true;
-    p.VazpastSemana_1 = 3;
-    postoBD.setDadosGerais(p);
-    EXPECT_EQ(caso.linhas(u"DadosGerais"_s, 12), 1);
-    Recordset& complemento = caso.bd->TabDadosGeraisComplemento();
-    complemento.Seek(u"="_s, {12});
-    ASSERT_FALSE(complemento.NoMatch());
-    EXPECT_EQ(complemento.campo(u"ArqVazpast"_s).paraTexto(), u" "_s) << "in use without a name is no file";
-    EXPECT_EQ(complemento.campo(u"ArqLimite"_s).paraTexto(), u" "_s);
-    EXPECT_EQ(complemento.campo(u"VazpastSemana_1"_s).paraDouble(), 0.0);
-}
-
-TEST_F(CatalogoTeste, FalhaNoMeioNaoGravaNadaEDevolveOIndice) {
-    Posto p = pCompleto(3, u"Três Marias"_s);
-    p.NomeArqLimite = u"nome-longo-demais.lim"_s;  // beyond the field's 12 characters
-    postos().setIndex(PorCodigo);
-    try {
-        postoBD.setPosto(p);
-        ADD_FAILURE() << "a text longer than its field must fail";
-    } catch (const plataforma::ErroVB& e) {
-        EXPECT_EQ(e.Number(), 3163);
-    }
-    EXPECT_EQ(postos().Index(), PorNome);
-    EXPECT_EQ(caso.linhas(u"Postos"_s, 3) + caso.linhas(u"DadosGerais"_s, 3), 0)
-        << "the catalogue row went too";
+    renomeado.SemanaInicialPrev = 30;  // the complement alone is no general data
+    EXPECT_TRUE(postoBD.setPosto(renomeado)) << "the station's own name, in another case, is a save";
+    const Posto lido = le(1);
+    EXPECT_EQ(std::tuple(lido.Nome, lido.AnoInicial, lido.MesInicial, lido.SemanaInicialPrev),
+              std::tuple(u"Furnas"_s, 0, 7, 12));
 }
 
 TEST_F(CatalogoTeste, ApagarTiraCatalogoDadosGeraisEHistoricoEMaisNada) {
@@ -268,6 +192,29 @@ TEST_F(CatalogoTeste, ApagarTiraCatalogoDadosGeraisEHistoricoEMaisNada) {
     EXPECT_EQ(caso.linhas(u"VazoesPrevistas"_s, 4), 1);
     EXPECT_EQ(caso.linhas(u"LimitesPrevisao"_s, 4, u"Codigo"_s), 1);
     EXPECT_EQ(postos().Index(), PorNome);
+}
+
+// The template's word opens the name and what stood before it is lost; one word only is replaced.
+// An empty template keeps the station's own name. The erase flags are copied whatever their value.
+TEST_F(CatalogoTeste, NomesPadraoSubstituemUmaMarcaEPerdemOQueVemAntes) {
+    Posto p = adiciona(123456789, u"Tucuruí Grande"_s);
+    p.Arquivos.ArquivoRelatorio = u"[Nome do Aproveitamento].rel"_s;
+    p.Arquivos.ApagarArquivoRelatorio = true;
+    corvalin::Opcoes padrao;
+    padrao.Arquivos.ArquivoVazoesSemanais = u"[nome do aproveitamento].dat"_s;
+    padrao.Arquivos.ArquivoPrevisoes = u"abc[Código do Posto]"_s;
+    padrao.Arquivos.ArquivoExcel = u"[CÓDIGO DO POSTO][Nome do Aproveitamento]"_s;
+    padrao.Arquivos.ArquivoDadosGerais = u"fixo.dat"_s;
+    padrao.Arquivos.ApagarArquivoExcel = true;
+    postoBD.setNomesPadrao(p, padrao);
+    const corvalin::OpcoesArquivos a = le(p.Codigo).Arquivos;
+    EXPECT_EQ(a.ArquivoRelatorio, u"Tucuruí .rel"_s) << "the name is cut to eight";
+    EXPECT_EQ(a.ArquivoVazoesSemanais, u"Tucuruí .dat"_s) << "case ignored";
+    EXPECT_EQ(a.ArquivoPrevisoes, u"12345678to]"_s) << "the code is cut to eight, part of the word stays";
+    EXPECT_EQ(a.ArquivoExcel, u"12345678[Nome do Aproveitamento]"_s);
+    EXPECT_EQ(a.ArquivoDadosGerais, u"fixo.dat"_s);
+    EXPECT_EQ(std::pair(a.ApagarArquivoRelatorio, a.ApagarArquivoExcel), std::pair(false, true));
+    EXPECT_EQ(p.Arquivos.ArquivoExcel, a.ArquivoExcel) << "the record and the caller's station agree";
 }
 
 // Each store closes the tables it opened when it ends, and only those: another store of the same

