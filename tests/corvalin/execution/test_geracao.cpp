@@ -27,7 +27,7 @@ private:
 
 class Geracao : public CasoExecucao {
 protected:
-    // Three stations; Beta with limits and a Vazpast file, Zero with limits its code stops.
+    // Beta has limits and a Vazpast file; Zero asks for limits too, but code 0 gets no limits file.
     void SetUp() override {
         CasoExecucao::SetUp();
         grava(PostoPronto(10, "Alfa"));

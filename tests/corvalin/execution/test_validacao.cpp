@@ -8,7 +8,6 @@ namespace teste {
 namespace {
 
 using corvalin::Posto;
-using corvalin::RegistroTexto;
 using namespace corvalin::Mensagens;
 using ::testing::Contains;
 using ::testing::ElementsAre;
