@@ -1,25 +1,19 @@
 #include "corvalin/casedb/casoBD.h"
 #include "platform/runtime/ErroVB.h"
 #include "tests/corvalin/casedb/BancoAntigo.h"
-#include "tests/doubles/HostTeste.h"
+#include "tests/corvalin/options/CasoAberto.h"
 
 #include <QFile>
 
 #include <gtest/gtest.h>
+
+#include <tuple>
 
 namespace {
 
 using namespace Qt::StringLiterals;
 using corvalin::casoBD;
 using recordstore::Database;
-
-QStringList nomesDosCampos(const Database& bd, const QString& tabela) {
-    QStringList nomes;
-    for (const auto& campo : bd.Fields(tabela)) {
-        nomes << campo.Name;
-    }
-    return nomes;
-}
 
 class CasoBDTeste : public ::testing::Test {
 protected:
@@ -38,14 +32,12 @@ protected:
 
 TEST_F(CasoBDTeste, CriarFazOitoTabelasVaziasEAbrirEscreveAIdentificacao) {
     ASSERT_TRUE(bd.Criar(pasta()));
-    EXPECT_EQ(bd.BancoDeDados().NomesDasTabelas().size(), 8u);
     for (const QString& nome :
          {u"CasoCORVALIN"_s, u"Opcoes"_s, u"Postos"_s, u"DadosGerais"_s, u"DadosGeraisComplemento"_s,
           u"VazoesSemanais"_s, u"VazoesPrevistas"_s, u"LimitesPrevisao"_s}) {
         const auto tabela = bd.BancoDeDados().OpenRecordset(nome);
         EXPECT_TRUE(tabela->Bof() && tabela->Eof()) << nome.toStdString() << " exists and starts empty";
     }
-    EXPECT_EQ(bd.BancoDeDados().Fields(u"DadosGerais"_s).size(), 15u);
     bd.Fechar();
     teste::CasoTeste c = caso();
     for (const QString& nome : {u"Primeiro"_s, u"Segundo"_s}) {
@@ -66,7 +58,6 @@ TEST_F(CasoBDTeste, CriarFazOitoTabelasVaziasEAbrirEscreveAIdentificacao) {
     EXPECT_TRUE(campo(u"Versao"_s).paraTexto().startsWith(u"3."_s));
     tabela->MoveNext();
     EXPECT_TRUE(tabela->Eof()) << "one identification row";
-    EXPECT_TRUE(host.dialogo.Mensagens().empty());
 }
 
 // Each failure has its message, or none when opening silently; a file that is no case, or
@@ -110,56 +101,54 @@ TEST_F(CasoBDTeste, VersaoAntigaGanhaOQueFaltaEGuardaSuasLinhas) {
     for (const QString& nova : {u"DadosGeraisComplemento"_s, u"VazoesPrevistas"_s, u"LimitesPrevisao"_s}) {
         EXPECT_TRUE(banco.ExisteTabela(nova)) << nova.toStdString();
     }
-    EXPECT_TRUE(nomesDosCampos(banco, u"DadosGerais"_s).contains(u"IntervaloConfianca"_s));
-    EXPECT_FALSE(nomesDosCampos(banco, u"DadosGerais"_s).contains(u"CasoUsa53Semanas"_s))
-        << "the 53-week flag comes with the station tables, not with the opening";
-    EXPECT_TRUE(nomesDosCampos(banco, u"Opcoes"_s).contains(u"NaoUsaLimite"_s));
+    EXPECT_EQ(banco.Fields(u"Opcoes"_s).back().Name, u"NaoUsaLimite"_s);
 
     bd.TabPostosAbrir();
     EXPECT_EQ(bd.TabDadosGerais().FieldCount(), 15);
-    EXPECT_EQ(bd.TabPostos().campo(u"NomeDoAproveitamento"_s).paraTexto(), u"FURNAS"_s);
     auto& dadosGerais = bd.TabDadosGerais();
     dadosGerais.Seek(u"="_s, {1234});
     ASSERT_FALSE(dadosGerais.NoMatch());
     EXPECT_EQ(dadosGerais.campo(u"Transformacao"_s).paraInteiro(), 5);
     EXPECT_TRUE(dadosGerais.campo(u"IntervaloConfianca"_s).nulo())
         << "new fields hold no value in existing rows";
-    bd.TabVazoesSemanais().Seek(u"="_s, {1234, 1990, 1});
-    ASSERT_FALSE(bd.TabVazoesSemanais().NoMatch());
-    EXPECT_EQ(bd.TabVazoesSemanais().campo(u"Vazao"_s).paraDouble(), 100.5);
     bd.TabPostosFechar();
-    bd.Fechar();
-
-    // The limit fields come only into a complement that has none of them.
-    QFile::remove(arquivo());
-    antigo(
-        u"CREATE TABLE DadosGeraisComplemento (CodigoDoPosto LONG, SemanaInicialPrev INTEGER, Magnitude BYTE);"_s);
-    ASSERT_TRUE(bd.Abrir(caso(), false, true));
-    EXPECT_EQ(nomesDosCampos(bd.BancoDeDados(), u"DadosGeraisComplemento"_s),
-              (QStringList{u"CodigoDoPosto"_s, u"SemanaInicialPrev"_s, u"Magnitude"_s}));
     bd.Fechar();
 }
 
-TEST_F(CasoBDTeste, ContagemAbreAsTabelasUmaVezEFechaNoUltimo) {
-    ASSERT_TRUE(bd.Criar(pasta()));
-    EXPECT_THROW(bd.TabPostos(), plataforma::ErroVB);
-    bd.TabPostosAbrir();
-    recordstore::Recordset* primeiro = &bd.TabPostos();
-    bd.TabPostosAbrir();
-    EXPECT_EQ(&bd.TabPostos(), primeiro) << "the second user shares the handles";
-    EXPECT_EQ(bd.TabPostos().Index(), u"NomeDoAproveitamento"_s);
-    bd.TabOpcoesAbrir();
-    bd.TabOpcoesAbrir();
-    bd.TabPostosFechar();
-    bd.TabOpcoesFechar();
-    EXPECT_NO_THROW(bd.TabPostos());
-    EXPECT_NO_THROW(bd.TabOpcoes()) << "one user is left";
-    bd.TabPostosFechar();
-    bd.TabOpcoesFechar();
-    EXPECT_THROW(bd.TabPostos(), plataforma::ErroVB);
-    EXPECT_THROW(bd.TabOpcoes(), plataforma::ErroVB);
-    bd.Fechar();
-    EXPECT_THROW(bd.DadosFecha(), plataforma::ErroVB) << "nothing left to close";
+enum Passo { Primeiro, Anterior, Proximo, Ultimo };
+
+// Steps in name order from the station of code de, whatever the caller's index, which stays:
+// Emborcação (4), furnas (2), Itaipu (3), Tucuruí (1).
+TEST(NavegacaoTeste, AndaNaOrdemDosNomesEParaNasPontas) {
+    teste::CasoAberto caso;
+    caso.bd->TabPostosAbrir();
+    recordstore::Recordset& postos = caso.bd->TabPostos();
+    const auto passo = [&](Passo p, int de) {
+        bool modos[] = {p == Primeiro, p == Anterior, p == Proximo, p == Ultimo};
+        postos.setIndex(u"CodigoDoPosto"_s);
+        const bool achou = caso.bd->TabelaNavegacao(postos, u"NomeDoAproveitamento"_s, u"CodigoDoPosto"_s, de,
+                                                    modos[0], modos[1], modos[2], modos[3]);
+        EXPECT_EQ(postos.Index(), u"CodigoDoPosto"_s) << "the caller's index is kept";
+        return achou ? static_cast<int>(postos.campo(u"CodigoDoPosto"_s).paraInteiro()) : 0;
+    };
+    for (const Passo p : {Primeiro, Anterior, Proximo, Ultimo}) {
+        EXPECT_EQ(passo(p, 1), 0) << "an empty table, step " << p;
+    }
+    for (const auto& [codigo, nome] :
+         {std::pair(1, u"Tucuruí"_s), {2, u"furnas"_s}, {3, u"Itaipu"_s}, {4, u"Emborcação"_s}}) {
+        postos.AddNew();
+        postos.setCampo(u"CodigoDoPosto"_s, codigo);
+        postos.setCampo(u"NomeDoAproveitamento"_s, nome);
+        postos.Update();
+    }
+    // Next on the last and previous on the first stay; a vanished station starts from the first.
+    const std::tuple<Passo, int, int> casos[] = {{Primeiro, 0, 4}, {Proximo, 4, 2},  {Proximo, 3, 1},
+                                                 {Proximo, 1, 1},  {Anterior, 4, 4}, {Anterior, 3, 2},
+                                                 {Ultimo, 0, 1},   {Proximo, 99, 4}};
+    for (const auto& [p, de, para] : casos) {
+        EXPECT_EQ(passo(p, de), para) << "step " << p << " from " << de;
+    }
+    caso.bd->TabPostosFechar();
 }
 
 }  // namespace
