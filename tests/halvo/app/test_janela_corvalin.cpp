@@ -14,6 +14,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMdiArea>
+#include <QMenu>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -29,12 +30,14 @@ class TesteJanelaCorvalin : public QObject {
 
 private slots:
     void initTestCase();
-    void casoCriadoAbertoCopiadoEApagado();
+    void casesAreCreatedOpenedCopiedAndDeletedWithTheirScreens();
 
 private:
     void cria(const QString& estudo, const QString& nome, const QString& descricao);
     void seleciona(std::int32_t codigo);
     void aciona(const char* nome);
+    bool ativa(const char* nome) const;
+    QStringList menuDoGrupo(int grupo) const;
     QString caminho(const QString& relativo) const {
         return QDir::toNativeSeparators(mPasta.filePath(relativo));
     }
@@ -73,6 +76,19 @@ void TesteJanelaCorvalin::aciona(const char* nome) {
     acao->trigger();
 }
 
+bool TesteJanelaCorvalin::ativa(const char* nome) const {
+    const QAction* acao = mJanela->findChild<QAction*>(QString::fromLatin1(nome));
+    return acao != nullptr && acao->isEnabled();
+}
+
+QStringList TesteJanelaCorvalin::menuDoGrupo(int grupo) const {
+    QStringList itens;
+    for (const QAction* item : mJanela->findChild<QMenu*>(u"menuGrupo_%1"_s.arg(grupo))->actions()) {
+        itens << (item->isSeparator() ? u"--"_s : item->text());
+    }
+    return itens;
+}
+
 // The case's title as the plug-in wrote it into its database.
 QString TesteJanelaCorvalin::titulo(const QString& pasta) {
     const auto banco = recordstore::Database::OpenDatabase(pasta + u"/Corvalin.mdb"_s);
@@ -80,7 +96,7 @@ QString TesteJanelaCorvalin::titulo(const QString& pasta) {
     return tabela->Eof() ? QString() : tabela->campo(u"Titulo"_s).paraTexto();
 }
 
-void TesteJanelaCorvalin::casoCriadoAbertoCopiadoEApagado() {
+void TesteJanelaCorvalin::casesAreCreatedOpenedCopiedAndDeletedWithTheirScreens() {
     teste::DialogoRoteirizado dialogo;
     halvo::UtilitariosSistemaGui sistema;
     const halvo::InstalacaoServicos servicos(&dialogo, &sistema, nullptr);
@@ -97,13 +113,21 @@ void TesteJanelaCorvalin::casoCriadoAbertoCopiadoEApagado() {
     const QString furnas = caminho(u"Rio Grande/Furnas"_s);
     QVERIFY(QFile::exists(furnas + u"/Corvalin.mdb"_s));
     QCOMPARE(lista.Casos().size(), 2u);
+    QCOMPARE(menuDoGrupo(1), (QStringList{u"Opções"_s, u"Dados Gerais"_s, u"--"_s,
+                                          u"Histórico de Vazões Semanais"_s, u"Limites"_s}));
+    QVERIFY(!ativa("acaoTela_1_1"));
 
     seleciona(1);
     aciona("acaoAbrir");
     QCOMPARE(janela.Gerente().Aberto(), std::optional<std::int32_t>(1));
     QCOMPARE(titulo(furnas), u"Furnas"_s);
+    // Opening another case closes the first.
+    seleciona(2);
+    aciona("acaoAbrir");
+    QCOMPARE(janela.Gerente().Aberto(), std::optional<std::int32_t>(2));
     aciona("acaoFechar");
     QVERIFY(!janela.Gerente().Aberto());
+    QVERIFY(!ativa("acaoTela_1_1"));
 
     // A copy opens the case for the plug-in and closes it again.
     const QString copia = caminho(u"Rio Grande/Furnas 2"_s);
@@ -132,16 +156,29 @@ void TesteJanelaCorvalin::casoCriadoAbertoCopiadoEApagado() {
     QCOMPARE(lista.Casos().size(), 4u);
     QCOMPARE(janela.Gerente().Aberto(), std::optional<std::int32_t>(2));
 
-    dialogo.responde(halvo::Resposta::Sim);
+    // Deleting asks first, and takes the case's screens along.
     seleciona(codigoDaCopia);
+    aciona("acaoAbrir");
+    aciona("acaoTela_1_1");
+    QCOMPARE(janela.Area().subWindowList().size(), 1);
+    dialogo.responde(halvo::Resposta::Nao);
     aciona("acaoApagar");
+    QVERIFY(QDir(copia).exists());
+    dialogo.responde(halvo::Resposta::Sim);
+    aciona("acaoApagar");
+    QCOMPARE(dialogo.Mensagens().back().titulo, u"Confirmação"_s);
     QVERIFY(!QDir(copia).exists());
     QVERIFY(lista.ProcuraPasta(copia) == nullptr);
-    QCOMPARE(dialogo.Mensagens().back().titulo, u"Confirmação"_s);
+    QVERIFY(!janela.Gerente().Aberto());
+    QVERIFY(janela.Area().subWindowList().isEmpty());
 
+    seleciona(2);
+    aciona("acaoSomenteLeitura");
     halvo::ListaDeCasos relida;
     QVERIFY(relida.Carrega());
     QCOMPARE(relida.Casos().size(), 3u);
+    QVERIFY(relida.Procura(2)->SomenteLeitura);
+    QVERIFY(!relida.Procura(1)->SomenteLeitura);
 }
 
 }  // namespace

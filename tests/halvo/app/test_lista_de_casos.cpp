@@ -20,7 +20,7 @@ halvo::EntradaCaso entrada(const QString& estudo, const QString& nome, const QSt
     return e;
 }
 
-TEST(ListaDeCasos, GravadaERelidaSemReusarCodigos) {
+TEST(CaseList, IsSavedAndReadBackWithoutReusingCodesAndADamagedFileLeavesItEmpty) {
     QTemporaryDir dir;
     const QString arquivo = dir.filePath(u"config/casos.json"_s);
     halvo::ListaDeCasos lista(arquivo);

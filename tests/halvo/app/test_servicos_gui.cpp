@@ -1,11 +1,7 @@
 #include "halvo/app/ServicoDialogoGui.h"
-#include "halvo/app/UtilitariosSistemaGui.h"
 
 #include <QApplication>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMessageBox>
-#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -17,14 +13,11 @@ class TesteServicosGui : public QObject {
     Q_OBJECT
 
 private slots:
-    void textoEFiltros();
-    void caixaDeMensagem();
-    void ponteiroEUmValorSo();
-    void telaFilhaSaiComASubjanela();
-    void janelaAuxiliarFicaSobreAPrincipal();
+    void messageTextAndFileFiltersTakeQtsForm();
+    void messageBoxShowsTitleTextAndIconAndAnswersWithTheKeyPressed();
 };
 
-void TesteServicosGui::textoEFiltros() {
+void TesteServicosGui::messageTextAndFileFiltersTakeQtsForm() {
     QCOMPARE(halvo::TextoDaMensagem(u"Erro 53\rna rotina X\r\n\r\nfim"_s), u"Erro 53\nna rotina X\n\nfim"_s);
     QCOMPARE(halvo::FiltroDoQt(u"Todos os arquivos (*.*)|*.*"_s), u"Todos os arquivos (*.*)"_s);
     QCOMPARE(halvo::FiltroDoQt(u"Vazões semanais|*.arq; *.txt|Limites (*.lim)|*.lim|"_s),
@@ -49,7 +42,7 @@ void respondeComTecla(Caixa& vista, Qt::Key tecla) {
     });
 }
 
-void TesteServicosGui::caixaDeMensagem() {
+void TesteServicosGui::messageBoxShowsTitleTextAndIconAndAnswersWithTheKeyPressed() {
     halvo::ServicoDialogoGui dialogo;
     Caixa vista;
     respondeComTecla(vista, Qt::Key_Escape);
@@ -70,54 +63,6 @@ void TesteServicosGui::caixaDeMensagem() {
     QCOMPARE(dialogo.Mensagem(u"Falhou."_s, u"Erro"_s, halvo::Icone::Erro, halvo::Botoes::Ok),
              halvo::Resposta::Ok);
     QCOMPARE(vista.icone, QMessageBox::Critical);
-}
-
-void TesteServicosGui::ponteiroEUmValorSo() {
-    halvo::ServicoDialogoGui dialogo;
-    dialogo.MousePointer(halvo::Ponteiro::Ocupado);
-    dialogo.MousePointer(halvo::Ponteiro::Ocupado);
-    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    dialogo.MousePointer(halvo::Ponteiro::Seta);
-    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
-    QApplication::restoreOverrideCursor();
-    QVERIFY(QApplication::overrideCursor() == nullptr);
-
-    dialogo.MousePointer(halvo::Ponteiro::Ocupado);
-    dialogo.MousePointer(halvo::Ponteiro::Padrao);
-    QVERIFY(QApplication::overrideCursor() == nullptr);
-}
-
-void TesteServicosGui::telaFilhaSaiComASubjanela() {
-    halvo::UtilitariosSistemaGui sistema;
-    QMdiArea area;
-    QPointer<QWidget> tela = new QWidget;
-    sistema.JanelaFilha(tela, &area);
-    QCOMPARE(area.subWindowList().size(), 1);
-    QPointer<QMdiSubWindow> subjanela = area.subWindowList()[0];
-    QCOMPARE(subjanela->widget(), tela.data());
-
-    // The screen closes itself, as its own "Fechar" button does.
-    tela->close();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(tela.isNull());
-    QVERIFY(subjanela.isNull());
-}
-
-void TesteServicosGui::janelaAuxiliarFicaSobreAPrincipal() {
-    halvo::UtilitariosSistemaGui sistema;
-    QWidget principal;
-    QWidget progresso;
-    progresso.show();
-    sistema.JanelaAuxiliar(&progresso);
-    QVERIFY(progresso.isVisible());
-
-    sistema.setPrincipal(&principal);
-    sistema.JanelaAuxiliar(&progresso);
-    QCOMPARE(progresso.parentWidget(), &principal);
-    QVERIFY(progresso.isWindow());
-    QCOMPARE(progresso.windowType(), Qt::Tool);
-    QVERIFY(progresso.isVisible());
 }
 
 }  // namespace

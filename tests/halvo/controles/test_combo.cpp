@@ -19,11 +19,10 @@ private slots:
     void init();
     void cleanup();
 
-    void listaNaOrdemDoIndiceRelidaACadaAberturaSemMoverATabela();
-    void escolhaPeloTecladoEPeloMouseDaOMarcador();
-    void digitarAvisaMudancaESoIsso();
-    void somenteListaETamanhoMaximo();
-    void tabelaFechadaEAvisadaEDeixaListaVazia();
+    void listFollowsTheIndexIsReadAtEachOpeningAndLeavesTheTableWhereItWas();
+    void choosingByKeyboardOrMouseGivesTheRecordsBookmark();
+    void typingReportsAChangeButNoChoice();
+    void aClosedTableIsReportedAndLeavesTheListEmpty();
 
 private:
     void adiciona(int codigo, const QString& nome);
@@ -89,7 +88,7 @@ QStringList TesteCombo::itens() const {
     return nomes;
 }
 
-void TesteCombo::listaNaOrdemDoIndiceRelidaACadaAberturaSemMoverATabela() {
+void TesteCombo::listFollowsTheIndexIsReadAtEachOpeningAndLeavesTheTableWhereItWas() {
     mPostos->setIndex(u"Codigo"_s);
     mPostos->Seek(u"="_s, {20});
     const recordstore::Bookmark antes = mPostos->Bookmark();
@@ -106,7 +105,7 @@ void TesteCombo::listaNaOrdemDoIndiceRelidaACadaAberturaSemMoverATabela() {
     mCombo->hidePopup();
 }
 
-void TesteCombo::escolhaPeloTecladoEPeloMouseDaOMarcador() {
+void TesteCombo::choosingByKeyboardOrMouseGivesTheRecordsBookmark() {
     QSignalSpy escolhas(mCombo.get(), &halvo::Combo::Selecionado);
     QSignalSpy mudancas(mCombo.get(), &halvo::Combo::Alterado);
     mCombo->setTexto(u"furnas"_s);
@@ -132,7 +131,7 @@ void TesteCombo::escolhaPeloTecladoEPeloMouseDaOMarcador() {
     QCOMPARE(mudancas.count(), 0);
 }
 
-void TesteCombo::digitarAvisaMudancaESoIsso() {
+void TesteCombo::typingReportsAChangeButNoChoice() {
     QSignalSpy escolhas(mCombo.get(), &halvo::Combo::Selecionado);
     QSignalSpy mudancas(mCombo.get(), &halvo::Combo::Alterado);
     mCombo->setFocus();
@@ -151,33 +150,7 @@ void TesteCombo::digitarAvisaMudancaESoIsso() {
     QCOMPARE(mudancas.count(), 6);
 }
 
-void TesteCombo::somenteListaETamanhoMaximo() {
-    mCombo->setTamanhoMaximo(10);
-    mCombo->setFocus();
-    QTest::keyClicks(mCombo->lineEdit(), u"Um nome longo demais"_s);
-    QCOMPARE(mCombo->Texto().size(), 10);
-
-    mCombo->setSomenteLista(true);
-    QVERIFY(mCombo->lineEdit() == nullptr);
-    QCOMPARE(mCombo->Texto(), QString());
-    // A name that the list did not hold yet is looked for again.
-    adiciona(60, u"Tucuruí"_s);
-    mCombo->setTexto(u"Tucuruí"_s);
-    QCOMPARE(mCombo->Texto(), u"Tucuruí"_s);
-
-    QSignalSpy escolhas(mCombo.get(), &halvo::Combo::Selecionado);
-    QTest::keyClicks(mCombo.get(), u"F"_s);
-    QCOMPARE(mCombo->Texto(), u"Furnas"_s);
-    QCOMPARE(escolhas.count(), 1);
-    QCOMPARE(escolhas.at(0).at(0).value<recordstore::Bookmark>(), marcadorDe(u"Furnas"_s));
-
-    mCombo->setSomenteLista(false);
-    QCOMPARE(mCombo->Texto(), u"Furnas"_s);
-    QTest::keyClicks(mCombo->lineEdit(), u"xxxxxxxxxx"_s);
-    QCOMPARE(mCombo->Texto().size(), 10);
-}
-
-void TesteCombo::tabelaFechadaEAvisadaEDeixaListaVazia() {
+void TesteCombo::aClosedTableIsReportedAndLeavesTheListEmpty() {
     mCombo->setTexto(u"Furnas"_s);
     mBanco->Close();
     mCombo->showPopup();

@@ -1,7 +1,6 @@
 #include "halvo/controles/Grid.h"
 #include "platform/runtime/ErroVB.h"
 
-#include <QHeaderView>
 #include <QLocale>
 #include <QSignalSpy>
 #include <QTableView>
@@ -27,11 +26,9 @@ private slots:
     void init();
     void cleanup();
 
-    void fixasSaoOsCabecalhosEForaDaGradeEErro9();
-    void alinhamentoPorCodigoOuPeloConteudo();
-    void linhasInseridasRemovidasELimpeza();
-    void edicaoPeloTecladoAvisaLinhaEColuna();
-    void colunaNumericaRecusaLetras();
+    void insertedAndRemovedRowsMoveTheCellsAndClearingKeepsTheHeaders();
+    void aKeyboardEditEndsWithItsRowAndColumn();
+    void aNumericColumnRefusesLetters();
 
 private:
     QAbstractItemModel& modelo() const { return *mTabela->model(); }
@@ -84,53 +81,7 @@ void TesteGrid::digita(const char* teclas) {
     }
 }
 
-void TesteGrid::fixasSaoOsCabecalhosEForaDaGradeEErro9() {
-    mGrid->setTextoMatriz(0, 2, u"Sem 2"_s);
-    mGrid->setTextoMatriz(3, 0, u"1992"_s);
-    mGrid->setTextoMatriz(1, 1, u"10,5"_s);
-    QCOMPARE(modelo().rowCount(), 3);
-    QCOMPARE(modelo().headerData(1, Qt::Horizontal).toString(), u"Sem 2"_s);
-    QCOMPARE(modelo().headerData(2, Qt::Vertical).toString(), u"1992"_s);
-    QCOMPARE(modelo().index(0, 0).data().toString(), u"10,5"_s);
-    // Widths in twips; a fixed column 0 is the row titles' width.
-    mGrid->setLarguraColuna(0, 1000);
-    mGrid->setLarguraColuna(2, 1500);
-    QCOMPARE(mTabela->verticalHeader()->width(), 67);
-    QCOMPARE(mTabela->columnWidth(1), 100);
-    QCOMPARE(mGrid->LarguraColuna(2), 1500);
-
-    // Without fixed cells every cell is the user's, and no header shows.
-    mGrid->setLinhasFixas(0);
-    mGrid->setColunasFixas(0);
-    QCOMPARE(modelo().rowCount(), 4);
-    QCOMPARE(modelo().index(0, 2).data().toString(), u"Sem 2"_s);
-    QVERIFY(mTabela->horizontalHeader()->isHidden() && mTabela->verticalHeader()->isHidden());
-
-    QCOMPARE(numeroDoErro([&] { mGrid->TextoMatriz(4, 0); }), 9);
-    QCOMPARE(numeroDoErro([&] { mGrid->setTextoMatriz(0, 4, u"x"_s); }), 9);
-    QCOMPARE(numeroDoErro([&] { mGrid->setLarguraColuna(4, 100); }), 9);
-}
-
-void TesteGrid::alinhamentoPorCodigoOuPeloConteudo() {
-    QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
-    mGrid->setTextoMatriz(1, 1, u"12,5"_s);
-    mGrid->setTextoMatriz(1, 2, u"Previsão"_s);
-    const auto alinhamento = [this](int coluna) {
-        return modelo().index(0, coluna - 1).data(Qt::TextAlignmentRole).value<Qt::Alignment>();
-    };
-    QCOMPARE(alinhamento(1), Qt::AlignRight | Qt::AlignVCenter);
-    QCOMPARE(alinhamento(2), Qt::AlignLeft | Qt::AlignVCenter);
-    for (const auto& [codigo, esperado] : {std::pair{0, Qt::AlignLeft | Qt::AlignTop},
-                                           {4, Qt::AlignHCenter | Qt::AlignVCenter},
-                                           {8, Qt::AlignRight | Qt::AlignBottom}}) {
-        mGrid->setAlinhamentoColuna(2, codigo);
-        QCOMPARE(mGrid->AlinhamentoColuna(2), codigo);
-        QCOMPARE(alinhamento(2), esperado);
-    }
-    QCOMPARE(alinhamento(1), Qt::AlignRight | Qt::AlignVCenter);  // one column at a time
-}
-
-void TesteGrid::linhasInseridasRemovidasELimpeza() {
+void TesteGrid::insertedAndRemovedRowsMoveTheCellsAndClearingKeepsTheHeaders() {
     for (int linha = 0; linha < 4; ++linha) {
         mGrid->setTextoMatriz(linha, 0, QString::number(1990 + linha));
         mGrid->setTextoMatriz(linha, 1, u"v%1"_s.arg(linha));
@@ -166,7 +117,7 @@ void TesteGrid::linhasInseridasRemovidasELimpeza() {
     QCOMPARE(modelo().headerData(1, Qt::Vertical).toString(), QString());
 }
 
-void TesteGrid::edicaoPeloTecladoAvisaLinhaEColuna() {
+void TesteGrid::aKeyboardEditEndsWithItsRowAndColumn() {
     mostra();
     QSignalSpy fins(mGrid.get(), &halvo::Grid::FimDeEdicao);
     QSignalSpy mudancas(mGrid.get(), &halvo::Grid::CelulaAlterada);
@@ -198,7 +149,7 @@ void TesteGrid::edicaoPeloTecladoAvisaLinhaEColuna() {
     QCOMPARE(mGrid->TextoMatriz(2, 3), u"abc"_s);
 }
 
-void TesteGrid::colunaNumericaRecusaLetras() {
+void TesteGrid::aNumericColumnRefusesLetters() {
     QLocale::setDefault(QLocale(QLocale::Portuguese, QLocale::Brazil));
     mGrid->ColunaNumerica(1, 4);
     mostra();

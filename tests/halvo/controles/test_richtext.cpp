@@ -15,11 +15,11 @@ class TesteRichText : public QObject {
     Q_OBJECT
 
 private slots:
-    void estilosDasLinhas();
-    void arquivoComoEstaSemQuebra();
+    void eachStyleHasItsColourAndWeight();
+    void aFileIsShownAsWrittenWithoutWrapping();
 };
 
-void TesteRichText::estilosDasLinhas() {
+void TesteRichText::eachStyleHasItsColourAndWeight() {
     halvo::RichText texto;
     texto.AdicionaLinha(u"Posto 1 - Furnas"_s, halvo::RichText::Normal, true, true);
     texto.AdicionaLinha(u"Erro: "_s, halvo::RichText::Erro, false, false);
@@ -42,7 +42,7 @@ void TesteRichText::estilosDasLinhas() {
     QCOMPARE(texto.Texto(), QString());
 }
 
-void TesteRichText::arquivoComoEstaSemQuebra() {
+void TesteRichText::aFileIsShownAsWrittenWithoutWrapping() {
     QTemporaryDir pasta;
     QFile arquivo(pasta.filePath(u"Relat.txt"_s));
     QVERIFY(arquivo.open(QIODevice::WriteOnly));

@@ -17,15 +17,14 @@ private slots:
         mSpin->setMinimo(1);
         mSpin->setMaximo(2200);
     }
-    void passosParamNosLimitesEPartemDoMinimo();
-    void antesDeMudarPodeCancelar();
-    void tecladoDigitaSoAlgarismosEPassaDeUmEmUm();
+    void stepsStopAtTheLimitsAndStartFromTheMinimum();
+    void theBeforeChangeEventCanCancelAStep();
 
 private:
     std::unique_ptr<halvo::Spin> mSpin;
 };
 
-void TesteSpin::passosParamNosLimitesEPartemDoMinimo() {
+void TesteSpin::stepsStopAtTheLimitsAndStartFromTheMinimum() {
     // Text before, steps up (or down), text after, and whether that was a change.
     const struct {
         const char* antes;
@@ -45,7 +44,7 @@ void TesteSpin::passosParamNosLimitesEPartemDoMinimo() {
     }
 }
 
-void TesteSpin::antesDeMudarPodeCancelar() {
+void TesteSpin::theBeforeChangeEventCanCancelAStep() {
     mSpin->setTexto(u"2000"_s);
     QList<bool> direcoes;
     connect(mSpin.get(), &halvo::Spin::AntesDeMudar, this, [&](bool paraCima, bool& cancela) {
@@ -66,25 +65,6 @@ void TesteSpin::antesDeMudarPodeCancelar() {
     mSpin->stepDown();
     // No question when there is no step to take.
     QCOMPARE(direcoes.size(), 2);
-}
-
-void TesteSpin::tecladoDigitaSoAlgarismosEPassaDeUmEmUm() {
-    mSpin->show();
-    mSpin->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(mSpin.get()));
-    QSignalSpy mudancas(mSpin.get(), &halvo::Spin::Alterado);
-
-    mSpin->findChild<QLineEdit*>()->clear();
-    QTest::keyClicks(mSpin.get(), u"19a-9.0"_s);
-    QCOMPARE(mSpin->Texto(), u"1990"_s);
-    QCOMPARE(mudancas.count(), 4);
-    QTest::keyClick(mSpin.get(), Qt::Key_Up);
-    QCOMPARE(mSpin->Texto(), u"1991"_s);
-    QTest::keyClick(mSpin.get(), Qt::Key_PageDown);
-    QCOMPARE(mSpin->Texto(), u"1990"_s);
-    QCOMPARE(mudancas.count(), 6);
-    mSpin->setTexto(u"2000"_s);  // the program's own writes are not the user's changes
-    QCOMPARE(mudancas.count(), 6);
 }
 
 }  // namespace

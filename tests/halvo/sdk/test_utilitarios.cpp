@@ -1,11 +1,10 @@
-#include "halvo/sdk/Servicos.h"
 #include "halvo/sdk/UtilitariosArquivo.h"
 #include "halvo/sdk/UtilitariosSistema.h"
-#include "tests/doubles/HostTeste.h"
 #include "tests/platform/runtime/Casos.h"
 
 #include <QDir>
 #include <QFile>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +23,7 @@ QByteArray le(const QString& caminho) {
 
 const halvo::UtilitariosArquivo arquivos;
 
-TEST(NomesCurtos, SoAceitaOitoPontoTres) {
+TEST(ShortNames, OnlyEightDotThreeNamesAreValid) {
     for (const char* valido : {"1234.arq", "VAZOES.DAT", "a.b", "ABCDEFGH.XYZ", "São.dat", "r_1-2.rel"}) {
         EXPECT_TRUE(arquivos.NomeArquivoValido(QString::fromUtf8(valido))) << valido;
     }
@@ -39,15 +38,7 @@ TEST(NomesCurtos, SoAceitaOitoPontoTres) {
          CASO(arquivos.ExtensaoValida(u"prvx"_s), false), CASO(arquivos.ExtensaoValida({}), false)});
 }
 
-TEST(Caminhos, SeparaPastaENome) {
-    confere<QString>({CASO(arquivos.SeparaCaminho(u"/casos/c1/1234/Caso.dat"_s, true), u"/casos/c1/1234/"_s),
-                      CASO(arquivos.SeparaCaminho(u"/casos/c1/1234/Caso.dat"_s, false), u"/casos/c1/1234"_s),
-                      CASO(arquivos.SeparaCaminho(u"Caso.dat"_s, true), QString()),
-                      CASO(arquivos.NomeDoArquivo(u"/casos/c1/1234.arq"_s), u"1234.arq"_s),
-                      CASO(arquivos.NomeDoArquivo(u"1234.arq"_s), u"1234.arq"_s)});
-}
-
-TEST(Arquivos, CopiaRespeitaSobrescreverEApagaPastaInteira) {
+TEST(Files, CopyHonoursOverwriteAndDeleteTakesTheWholeFolder) {
     QTemporaryDir dir;
     const QString a = dir.filePath(u"a.txt"_s);
     const QString b = dir.filePath(u"b.txt"_s);
@@ -70,7 +61,7 @@ TEST(Arquivos, CopiaRespeitaSobrescreverEApagaPastaInteira) {
     EXPECT_FALSE(arquivos.ArquivoExiste(dir.path())) << "a folder is not a file";
 }
 
-TEST(Processos, ExecutaNoShellNaPastaCorrenteEEspera) {
+TEST(Shell, RunsTheScriptInTheCurrentFolderAndWaitsForIt) {
     QTemporaryDir dir;
     escreve(dir.filePath(u"Executa.bat"_s), "sleep 0.2\necho feito > saida.txt\nexit 3\n");
     const QString anterior = QDir::currentPath();
@@ -79,19 +70,6 @@ TEST(Processos, ExecutaNoShellNaPastaCorrenteEEspera) {
     QDir::setCurrent(anterior);
     EXPECT_EQ(codigo, 3);
     EXPECT_EQ(le(dir.filePath(u"saida.txt"_s)), "feito\n") << "ran in the current folder, and waited";
-}
-
-TEST(Servicos, InstalacaoValeSoNoEscopo) {
-    halvo::ServicoDialogo* padrao = &halvo::Servicos::dialogo();
-    {
-        teste::HostTeste host;
-        EXPECT_EQ(&halvo::Servicos::dialogo(), &host.dialogo);
-        EXPECT_EQ(&halvo::Servicos::sistema(), &host.sistema);
-        halvo::UtilitariosArquivo().SelecionaArquivo(u"*.*|*.*"_s, {}, {});
-        ASSERT_EQ(host.dialogo.FiltrosPedidos().size(), 1u)
-            << "the file utility asks through the dialog service";
-    }
-    EXPECT_EQ(&halvo::Servicos::dialogo(), padrao);
 }
 
 }  // namespace
