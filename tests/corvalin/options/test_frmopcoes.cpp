@@ -73,22 +73,26 @@ private slots:
             t.nome(0).setCurrentIndex(0);
             t.extensao(0).setCurrentIndex(2);
             t.digita(2, u" relat "_s, u"rel"_s);
+            t.digita(3, u"prev"_s, u"prv"_s);
+            t.exclusao(1).click();
             t.exclusao(3).click();
             t.chkPasta().click();
             caso.host.dialogo.respondePasta(u"/tmp/prev"_s);
             t.c<QPushButton>(u"BotPastaPrevisoes"_s).click();
             QTest::keyClicks(&t.filtro(0), u" *.dat "_s);
             QTest::keyClicks(&t.c<QLineEdit>(u"TxtFiltroDescricao"_s, 0), u"Semanais"_s);
+            QTest::keyClicks(&t.filtro(2), u"*.prv"_s);
             t.grava();
             QVERIFY(caso.host.dialogo.Mensagens().empty());
             QCOMPARE(caso.notificador->Eventos(), std::vector<std::int32_t>{3});
         }
         const corvalin::Opcoes opcoes = leOpcoes(caso);
         QCOMPARE(opcoes.Arquivos.ArquivoDadosGerais, u"[Código do Posto].arq"_s);
-        QCOMPARE(opcoes.Arquivos.ArquivoRelatorio, u"relat.rel"_s);
-        QVERIFY(opcoes.Arquivos.ApagarArquivoExcel && !opcoes.Arquivos.ApagarArquivoRelatorio);
+        QCOMPARE(opcoes.Arquivos.ArquivoRelatorio + opcoes.Arquivos.ArquivoPrevisoes, u"relat.relprev.prv"_s);
+        QVERIFY(opcoes.Arquivos.ApagarArquivoExcel && opcoes.Arquivos.ApagarArquivoVazoesSemanais);
+        QVERIFY(!opcoes.Arquivos.ApagarArquivoRelatorio && !opcoes.Arquivos.ApagarArquivoDadosGerais);
         QCOMPARE(opcoes.PastaPrevisoes(), QDir::toNativeSeparators(u"/tmp/prev/"_s));
-        QCOMPARE(opcoes.Filtro(1) + opcoes.FiltroDescricao(1), u"*.datSemanais"_s);
+        QCOMPARE(opcoes.Filtro(1) + opcoes.FiltroDescricao(1) + opcoes.Filtro(3), u"*.datSemanais*.prv"_s);
 
         const Frm t(caso);
         QCOMPARE(t.nome(0).currentIndex(), 0);
@@ -173,7 +177,7 @@ private slots:
     }
 
     // Enter goes on to the next tab's first field, and from the last button back to the first
-    // tab; F2 and a double click open the folder dialog. A read-only case writes and asks nothing.
+    // tab; F2 opens the folder dialog. A read-only case writes and asks nothing.
     void tecladoESomenteLeitura() {
         teste::CasoDeTelas caso(true);
         const Frm t(caso);
@@ -193,9 +197,6 @@ private slots:
         caso.host.dialogo.respondePasta(u"/um"_s);
         QTest::keyClick(&t.pasta(), Qt::Key_F2);
         QCOMPARE(t.pasta().text(), u"/um"_s);
-        caso.host.dialogo.respondePasta(u"/dois"_s);
-        QTest::mouseDClick(&t.pasta(), Qt::LeftButton);
-        QCOMPARE(t.pasta().text(), u"/dois"_s);
         t.digita(0, u"x"_s, u"y"_s);
         QVERIFY(t.tela->close());
         QVERIFY(caso.host.dialogo.Mensagens().empty());
