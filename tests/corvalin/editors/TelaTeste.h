@@ -1,9 +1,8 @@
 #pragma once
 
-// What the user does on a screen and what he sees, by the controls' names, for the tests of the
-// screens.
+// What the user does on a screen and what he sees, by the controls' names.
 
-#include "halvo/controles/Spin.h"
+#include "corvalin/frame/Geral.h"
 #include "tests/corvalin/frame/CasoDeTelas.h"
 
 #include <QAbstractButton>
@@ -44,9 +43,6 @@ inline QString valor(const QWidget& tela, const QString& nome) {
     }
     if (const auto* caixa = qobject_cast<const QLineEdit*>(&alvo)) {
         return caixa->text();
-    }
-    if (const auto* spin = qobject_cast<const halvo::Spin*>(&alvo)) {
-        return spin->Texto();
     }
     if (const auto* rotulo = qobject_cast<const QLabel*>(&alvo)) {
         return rotulo->text();
@@ -99,6 +95,20 @@ inline corvalin::Posto lePosto(const CasoDeTelas& caso, int codigo) {
         qFatal("no station %d", codigo);
     }
     return posto;
+}
+
+struct Limites {
+    explicit Limites(std::uint8_t tipo) { corvalin::DimensionaLimites(tipo, ordem, inferior, superior, 0); }
+    plataforma::Vetor<std::int16_t> ordem;
+    plataforma::Vetor<float> inferior;
+    plataforma::Vetor<float> superior;
+};
+
+// The stored limits of one period, lower and upper.
+inline std::pair<float, float> limite(const CasoDeTelas& caso, int codigo, std::uint8_t tipo, int periodo) {
+    Limites l(tipo);
+    caso.postoBD->getLimitesPrevisao(codigo, tipo, l.ordem, l.inferior, l.superior);
+    return {l.inferior[periodo], l.superior[periodo]};
 }
 
 }  // namespace teste
