@@ -70,6 +70,9 @@ JanelaPrincipal::~JanelaPrincipal() {
 }
 
 bool JanelaPrincipal::AbrePasta(const QString& pasta) {
+    if (!pFechaTelasDoAberto()) {
+        return false;
+    }
     const bool aberto = mGerente.AbrePasta(pasta);
     pMostraCasos();
     if (aberto) {
@@ -201,13 +204,20 @@ void JanelaPrincipal::pAbrir() {
         return;
     }
     const QString nome = selecionado->Nome;
-    if (mGerente.Abre(selecionado->Codigo)) {
+    const std::int32_t codigo = selecionado->Codigo;
+    if (!pFechaTelasDoAberto()) {
+        return;
+    }
+    if (mGerente.Abre(codigo)) {
         statusBar()->showMessage(QStringLiteral("Caso \"%1\" aberto.").arg(nome));
     }
     pMostraCasos();
 }
 
 void JanelaPrincipal::pFechar() {
+    if (!pFechaTelasDoAberto()) {
+        return;
+    }
     mGerente.Fecha();
     statusBar()->showMessage(QStringLiteral("Caso fechado."));
     pMostraCasos();
@@ -307,6 +317,14 @@ bool JanelaPrincipal::pFechaTelasDoCaso(const EntradaCaso& entrada) {
         }
     }
     return true;
+}
+
+// The model's tables are counted per case database: a screen left open on a closed case would
+// keep the next case's tables from opening. So the open case's screens go with it.
+bool JanelaPrincipal::pFechaTelasDoAberto() {
+    const std::optional<std::int32_t> aberto = mGerente.Aberto();
+    const EntradaCaso* entrada = aberto ? mGerente.Lista().Procura(*aberto) : nullptr;
+    return entrada == nullptr || pFechaTelasDoCaso(*entrada);
 }
 
 void JanelaPrincipal::pMostraCasos() {

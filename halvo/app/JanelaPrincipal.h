@@ -23,7 +23,8 @@ class PainelCasos;
 // and the menus. "Caso" acts on the case selected in the tree (open, copy, delete, read-only) or
 // on the open one (close, run); one menu per group of the model's screens opens them as children
 // of the work area while a case is open. What the model reports about a case shows in the status
-// bar. Closing a case leaves its screens open; deleting it closes them first.
+// bar. Closing, switching or deleting a case closes its screens first;
+// a screen that refuses (unsaved changes kept by Cancel) keeps the case as it is.
 //
 // Actions are named for tests and scripts: acaoNovo, acaoAbrir, acaoFechar, acaoCopiar,
 // acaoApagar, acaoSomenteLeitura, acaoExecutar, acaoSair, acaoSobre, and acaoTela_<grupo>_<item>.
@@ -60,6 +61,7 @@ private:
     void pSobre();
     void pAbreTela(std::int16_t item, std::int32_t grupo);
     bool pFechaTelasDoCaso(const EntradaCaso& entrada);
+    bool pFechaTelasDoAberto();
     void pMostraCasos();
     void pAtualiza();
     const EntradaCaso* pSelecionado() const;

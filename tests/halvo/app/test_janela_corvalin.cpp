@@ -121,12 +121,18 @@ void TesteJanelaCorvalin::casesAreCreatedOpenedCopiedAndDeletedWithTheirScreens(
     aciona("acaoAbrir");
     QCOMPARE(janela.Gerente().Aberto(), std::optional<std::int32_t>(1));
     QCOMPARE(titulo(furnas), u"Furnas"_s);
-    // Opening another case closes the first.
+    // Opening another case closes the first with its screens, and the next case's screens open.
+    aciona("acaoTela_1_1");
     seleciona(2);
     aciona("acaoAbrir");
     QCOMPARE(janela.Gerente().Aberto(), std::optional<std::int32_t>(2));
+    QVERIFY(janela.Area().subWindowList().isEmpty());
+    aciona("acaoTela_1_1");
+    QCOMPARE(janela.Area().subWindowList().size(), 1);
+    QVERIFY(dialogo.Mensagens().empty());
     aciona("acaoFechar");
     QVERIFY(!janela.Gerente().Aberto());
+    QVERIFY(janela.Area().subWindowList().isEmpty());
     QVERIFY(!ativa("acaoTela_1_1"));
 
     // A copy opens the case for the plug-in and closes it again.
