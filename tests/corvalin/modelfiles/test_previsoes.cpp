@@ -6,26 +6,18 @@ namespace {
 using namespace Qt::StringLiterals;
 using plataforma::Vetor;
 
-// A forecast line: a 24-column label and 9-column fields.
-QString linhaPrevista(const QString& rotulo, const QStringList& campos) {
-    QString linha = rotulo.leftJustified(24);
-    for (const QString& campo : campos) {
-        linha += campo.rightJustified(9);
-    }
-    return linha;
-}
-
 // Six weeks, base plus the week's number.
 std::vector<float> seis(float base) {
     return {base + 1, base + 2, base + 3, base + 4, base + 5, base + 6};
 }
 
+// A forecast line: a 24-column label and six 9-column fields.
 QString linhaPrevista(const QString& rotulo, float base) {
-    QStringList campos;
+    QString linha = rotulo.leftJustified(24);
     for (const float valor : seis(base)) {
-        campos << QString::number(valor, 'f', 2);
+        linha += QString::number(valor, 'f', 2).rightJustified(9);
     }
-    return linhaPrevista(rotulo, campos);
+    return linha;
 }
 
 class PrevisoesTeste : public teste::CasoModelo {
@@ -63,20 +55,6 @@ TEST_F(PrevisoesTeste, SoAsTresUltimasLinhasContam) {
     EXPECT_EQ(guardadas(), (Previstas{zeros, seis(500), seis(2000)}));
     ASSERT_TRUE(importa({}));
     EXPECT_EQ(guardadas(), (Previstas{zeros, zeros, zeros}));
-}
-
-TEST_F(PrevisoesTeste, CamposCurtosOuComTextoLemOQueTem) {
-    ASSERT_TRUE(importa({linhaPrevista(u"P"_s, {u"12.5m3"_s, u"-3"_s, u"1 5"_s, u"x7"_s}), u"curta"_s,
-                         linhaPrevista(u"S"_s, {u"1"_s, u"2"_s}).left(24 + 9 + 5)}));
-    EXPECT_EQ(guardadas(), (Previstas{{{12.5f, -3, 15, 0, 0, 0}, zeros, {1, 0, 0, 0, 0, 0}}}))
-        << "the second upper field is cut to its blanks";
-}
-
-TEST_F(PrevisoesTeste, FalhasNaoGuardamNada) {
-    EXPECT_FALSE(arq.importaPRV(host.caminho(u"nada.prv"_s), teste::SaoSimao(), postoBD));
-    EXPECT_FALSE(importa({linhaPrevista(u"P"_s, {u"1"_s, u"9E+99"_s}), QString(), QString()}));
-    EXPECT_EQ(caso.linhas(u"VazoesPrevistas"_s), 0);
-    EXPECT_TRUE(host.dialogo.Mensagens().empty());
 }
 
 }  // namespace
