@@ -9,34 +9,22 @@
 
 namespace teste {
 
-namespace {
-
-void pCopia(const QString& origem, const QString& destino) {
-    if (!QFile::copy(origem, destino)) {
-        throw std::runtime_error("the test installation could not be made");
-    }
-}
-
-}  // namespace
-
-QStringList Saida::linhas() const { return saida.split(u'\n', Qt::SkipEmptyParts); }
-
 const Instalacao& Instalacao::teste() {
     static const Instalacao instalacao;
     return instalacao;
 }
 
 Instalacao::Instalacao() {
-    const QString bin = QStringLiteral(CORVALIN_PASTA_BIN);
     QDir(mPasta.path()).mkpath(QStringLiteral("modelos"));
-    pCopia(bin + QStringLiteral("/halvo"), halvo());
-    pCopia(bin + QStringLiteral("/modelos/libcorvalin.so"), mPasta.filePath(QStringLiteral("modelos/libcorvalin.so")));
-    pCopia(bin + QStringLiteral("/CorvalinTeste"), mPasta.filePath(QStringLiteral("modelos/Corvalin")));
+    for (const auto& [origem, destino] : {std::pair{"halvo", "halvo"},
+                                          {"modelos/libcorvalin.so", "modelos/libcorvalin.so"},
+                                          {"CorvalinTeste", "modelos/Corvalin"}}) {
+        if (!QFile::copy(QStringLiteral(CORVALIN_PASTA_BIN "/") + QLatin1String(origem),
+                         mPasta.filePath(QLatin1String(destino)))) {
+            throw std::runtime_error("the test installation could not be made");
+        }
+    }
 }
-
-QString Instalacao::halvo() const { return mPasta.filePath(QStringLiteral("halvo")); }
-
-QString Instalacao::halvoDaCompilacao() { return QStringLiteral(CORVALIN_PASTA_BIN "/halvo"); }
 
 Saida Executa(const QString& programa, const QStringList& argumentos) {
     QProcess processo;
@@ -49,11 +37,12 @@ Saida Executa(const QString& programa, const QStringList& argumentos) {
         processo.waitForFinished();
     }
     return {processo.exitStatus() == QProcess::NormalExit ? processo.exitCode() : -1,
-            QString::fromUtf8(processo.readAllStandardOutput()), QString::fromUtf8(processo.readAllStandardError())};
+            QString::fromUtf8(processo.readAllStandardOutput()),
+            QString::fromUtf8(processo.readAllStandardError())};
 }
 
-QString DadoDeTeste(const QString& relativo) { return QStringLiteral(CORVALIN_DADOS_TESTE "/") + relativo; }
-
-QString Amostra(const QString& nome) { return QStringLiteral(CORVALIN_DADOS_TESTE "/../../samples/") + nome; }
+QString DadoDeTeste(const QString& relativo) {
+    return QStringLiteral(CORVALIN_DADOS_TESTE "/") + relativo;
+}
 
 }  // namespace teste

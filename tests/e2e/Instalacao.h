@@ -13,7 +13,7 @@ struct Saida {
     int codigo;  // -1 when the program did not end by itself
     QString saida;
     QString erro;
-    QStringList linhas() const;
+    QStringList linhas() const { return saida.split(u'\n', Qt::SkipEmptyParts); }
 };
 
 // A copy of the host with the plug-in in its models folder and, as the solver beside it, the
@@ -23,8 +23,8 @@ public:
     static const Instalacao& teste();
 
     // The host program of this installation, or of the build (with the real solver).
-    QString halvo() const;
-    static QString halvoDaCompilacao();
+    QString halvo() const { return mPasta.filePath(QStringLiteral("halvo")); }
+    static QString halvoDaCompilacao() { return QStringLiteral(CORVALIN_PASTA_BIN "/halvo"); }
 
 private:
     Instalacao();
@@ -34,8 +34,7 @@ private:
 // Runs a host program to its end in a neutral locale, as a script would.
 Saida Executa(const QString& programa, const QStringList& argumentos);
 
-// The tests' data and the demo stations.
+// A file of the tests' data; the demo stations are at "../../samples/".
 QString DadoDeTeste(const QString& relativo);
-QString Amostra(const QString& nome);
 
 }  // namespace teste

@@ -21,6 +21,8 @@ namespace {
 constexpr int Postos = 50;
 constexpr int Interrupcoes = 100;
 constexpr int PrimeiroCodigo = 1000;
+// The history of every station: 24 full years and 30 weeks of the last.
+constexpr int LinhasDeHistorico = 24 * 52 + 30;
 
 // Fifty stations from the files of one in the tests' data, each with its own code and name.
 QStringList pGeraArquivos(const QString& pasta) {
@@ -46,7 +48,7 @@ QStringList pGeraArquivos(const QString& pasta) {
 
 // Opens the case as the plug-in does and checks that every station in it is whole: catalogue,
 // both general data rows and the whole history, or nothing at all. Answers how many are whole.
-int pPostosInteiros(const QString& caso, int linhasDeHistorico) {
+int pPostosInteiros(const QString& caso) {
     auto bd = std::make_shared<corvalin::casoBD>();
     EXPECT_TRUE(bd->Abrir(CasoTeste(caso), true, true)) << caso.toStdString();
     const char* tabelas[] = {"Postos", "DadosGerais", "DadosGeraisComplemento", "VazoesSemanais"};
@@ -58,7 +60,7 @@ int pPostosInteiros(const QString& caso, int linhasDeHistorico) {
         }
     }
     for (const auto& [codigo, n] : linhas) {
-        EXPECT_EQ(n, (std::array<int, 4>{1, 1, 1, linhasDeHistorico}))
+        EXPECT_EQ(n, (std::array<int, 4>{1, 1, 1, LinhasDeHistorico}))
             << "station " << codigo << " is not whole";
     }
     bd->Fechar();
@@ -92,20 +94,13 @@ protected:
     QString modelo;
 };
 
-// The history of every station: 24 full years and 30 weeks of the last.
-constexpr int LinhasDeHistorico = 24 * 52 + 30;
-
 TEST_F(Interrupcao, AKilledImportLeavesEveryStationWholeOrAbsent) {
     // A whole import, to know how long one takes.
     QElapsedTimer relogio;
     relogio.start();
-    const QString inteiro = novoCaso(0);
-    QProcess completo;
-    inicia(completo, inteiro);
-    ASSERT_TRUE(completo.waitForFinished(120000));
+    ASSERT_EQ(Executa(Instalacao::teste().halvo(), QStringList{"importar", novoCaso(0)} + arquivos).codigo,
+              0);
     const qint64 duracao = relogio.elapsed();
-    ASSERT_EQ(completo.exitCode(), 0);
-    ASSERT_EQ(pPostosInteiros(inteiro, LinhasDeHistorico), Postos);
 
     std::mt19937 sorteio(20261122);
     std::uniform_int_distribution<qint64> momento(0, duracao);
@@ -117,7 +112,7 @@ TEST_F(Interrupcao, AKilledImportLeavesEveryStationWholeOrAbsent) {
         QThread::msleep(static_cast<unsigned long>(momento(sorteio)));
         processo.kill();  // SIGKILL
         processo.waitForFinished();
-        const int postos = pPostosInteiros(caso, LinhasDeHistorico);
+        const int postos = pPostosInteiros(caso);
         parciais += postos != 0 && postos != Postos;
         QDir(caso).removeRecursively();
     }
@@ -138,7 +133,7 @@ TEST_F(Interrupcao, AReaderWaitsForTheImportRatherThanFailing) {
     EXPECT_TRUE(leitura.saida.startsWith("Posto 1000 - Posto 1000")) << leitura.saida.toStdString();
     ASSERT_TRUE(importacao.waitForFinished(120000));
     EXPECT_EQ(importacao.exitCode(), 0);
-    EXPECT_EQ(pPostosInteiros(caso, LinhasDeHistorico), Postos);
+    EXPECT_EQ(pPostosInteiros(caso), Postos);
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ TEST(SolverReal, ADemoStationRunThroughTheHostsRoadLeavesItsForecastAndItsFiles)
     const QString caso = pasta.filePath("caso");
     const QString halvo = Instalacao::halvoDaCompilacao();
     ASSERT_EQ(Executa(halvo, {"criar", caso}).codigo, 0);
-    const Saida importar = Executa(halvo, {"importar", caso, Amostra("1333.arq")});
+    const Saida importar = Executa(halvo, {"importar", caso, DadoDeTeste("../../samples/1333.arq")});
     ASSERT_EQ(importar.codigo, 0) << importar.saida.toStdString();
 
     const Saida executar = Executa(halvo, {"executar", caso});
