@@ -1,6 +1,8 @@
 #include "tests/e2e/Instalacao.h"
 
 #include <QDir>
+#include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -54,6 +56,18 @@ TEST(LinhaDeComando, MadeImportedRunAndReadTheForecastOfTheSolver) {
                             "Previsão        10.2      20.0      30.0      40.0      50.0      60.0",
                             "L. Inf.          5.0       6.0       7.0       8.0       9.0      10.0",
                             "L. Sup.        100.0     200.0     300.0     400.0     500.0     600.1"));
+
+    // A solver that crashes, writes nothing or leaves a verdict of 1 fails its station alone. The
+    // verdict of the run before is taken away: a solver that writes none leaves it standing.
+    for (const QString& falha : QStringList{QString(), "aborta", "runstate 1"}) {
+        Grava(caso + "/Instrucoes_101.txt", {falha});
+        QFile::remove(caso + "/101/RUNSTATE.DAT");
+        const Saida assistente = pHalvo({"assistente", caso});
+        EXPECT_EQ(assistente.codigo, 1) << falha.toStdString();
+        EXPECT_THAT(assistente.linhas().filter(QRegularExpression("^Posto |^Caso executado")),
+                    ElementsAre(alfa, "Caso executado com erro.", beta, "Caso executado com sucesso."))
+            << falha.toStdString();
+    }
 }
 
 TEST(LinhaDeComando, TheImportReportsProblemsAndFailsWithoutTouchingTheCase) {
