@@ -3,7 +3,6 @@
 #include "Apoio.h"
 
 #include <limits>
-#include <string>
 #include <utility>
 
 using namespace texto;
@@ -26,33 +25,20 @@ struct Formato {
 // even, the host's formatter rounds the printed digits half away from zero: a Single from its 7
 // digits, a Double from its 15 (the rows after the blank line).
 TEST(FormataCampo, LaysOutFieldsAsFortranRoundingThePrintedDigits) {
-    const double NaN = std::numeric_limits<double>::quiet_NaN();
-    const std::string grande = " 1" + std::string(39, '0') + ".0";
     // clang-format off
     const Formato casos[] = {
-        {0.5, "F4.1", " 0.5"},       {0.5, "F3.1", "0.5"},    {0.5, "F2.1", ".5"},    {-0.5, "F4.1", "-0.5"},
-        {-0.5, "F3.1", "-.5"},       {-0.5, "F2.1", "**"},    {100, "F4.1", "****"},  {-10, "F4.1", "****"},
-        {99.96, "F4.1", "****"},     {99.94, "F4.1", "99.9"}, {-0.04, "F4.1", "-0.0"}, {-0.04, "F2.1", "**"},
-        {0, "F4.1", " 0.0"},         {0, "F2.1", ".0"},       {0, "F1.1", "*"},       {0.5, "F3.3", "***"},
-        {0.4, "F5.0", "   0."},      {-0.4, "F5.0", "  -0."}, {0.4, "F1.0", "*"},     {3, "F2.0", "3."},
-        {-12.345, "F6.2", "-12.35"}, {1234567, "F12.3", " 1234567.000"},              {1e30, "F8.1", "********"},
-        {12.5, "f6.2", " 12.50"},    {123, "I4", " 123"},     {123, "I2", "**"},      {-5, "I2", "-5"},
-        {-10, "I2", "**"},           {0, "I1", "0"},          {-0.4, "I2", " 0"},     {7, "i3", "  7"},
+        {0.5, "F4.1", " 0.5"},       {0.5, "F2.1", ".5"},     {-0.5, "F3.1", "-.5"},  {-0.5, "F2.1", "**"},
+        {99.96, "F4.1", "****"},     {99.94, "F4.1", "99.9"}, {-0.04, "F4.1", "-0.0"}, {0, "F2.1", ".0"},
+        {0.4, "F5.0", "   0."},      {3, "F2.0", "3."},       {-12.345, "F6.2", "-12.35"}, {123, "I4", " 123"},
+        {123, "I2", "**"},           {-0.4, "I2", " 0"},      {12.5, "f6.2", " 12.50"},
 
-        {0.45f, "F4.1", " 0.5"},     {0.45f, "F4.1", " 0.4", Double},                 {0.05f, "F4.1", " 0.1"},
-        {0.25, "F4.1", " 0.3", Double},  {-0.25, "F4.1", "-0.3", Double},  {0.125, "F5.2", " 0.13", Double},
-        {2.5, "I1", "3", Double},    {-2.5, "I2", "-3", Double},  {9.95f, "F3.1", "***"},  {1e39, "F6.1", "******"},
-        {NaN, "F4.1", "****", Double},   {1e39, "F43.1", grande.c_str(), Double}};
+        {0.45f, "F4.1", " 0.5"},     {0.45f, "F4.1", " 0.4", Double},                 {9.95f, "F3.1", "***"},
+        {0.25, "F4.1", " 0.3", Double},  {2.5, "I1", "3", Double},  {-2.5, "I2", "-3", Double},
+        {std::numeric_limits<double>::quiet_NaN(), "F4.1", "****", Double}};
     // clang-format on
     for (const auto& [valor, descritor, campo, tipo] : casos) {
-        EXPECT_EQ(FormataCampo(valor, descritor, tipo), campo) << valor << " " << descritor << " type " << tipo;
-    }
-}
-
-TEST(FormataCampo, UnknownDescriptorsRaiseError5) {
-    for (const char* descritor :
-         {"F4", "F4.", "F.1", "E10.3", "I3.1", "F0.1", "I0", "", " F4.1", "F4,1", "4.1", "F4.1x"}) {
-        EXPECT_EQ(numeroDoErro([descritor] { FormataCampo(1, descritor, Single); }), 5) << descritor;
+        EXPECT_EQ(FormataCampo(valor, descritor, tipo), campo)
+            << valor << " " << descritor << " type " << tipo;
     }
 }
 
@@ -68,15 +54,14 @@ TEST(FormataCampo, LimitsSurviveWritingAndReading) {
 
 // Fields of the limits file read alike whatever the user's number format.
 TEST(LeNumero, TakesPointOrCommaAndNothingElseInAnyLocale) {
-    const std::pair<const char*, double> casos[] = {{" 5.0", 5},    {"12,5", 12.5}, {"", 0},   {"    ", 0},
-                                                    {"-.5", -0.5},  {"+3", 3},      {"5.", 5}, {"0.1", 0.1},
-                                                    {"99.9", 99.9}, {" 1,5 ", 1.5}};
+    const std::pair<const char*, double> casos[] = {{" 5.0", 5}, {"12,5", 12.5}, {"    ", 0},   {"-.5", -0.5},
+                                                    {"+3", 3},   {"5.", 5},      {" 1,5 ", 1.5}};
     for (const QLocale& local : {QLocale::c(), Portugues}) {
         const EmLocal em(local);
         for (const auto& [campo, valor] : casos) {
             EXPECT_EQ(LeNumero(campo), valor) << campo << " in " << local.name().toStdString();
         }
-        for (const char* campo : {"1.2.3", "abc", "1 2", "1,2.3", "-", ".", "5-", "1e2", "--1", "1.234,5"}) {
+        for (const char* campo : {"1.2.3", "abc", "1 2", "-", "1e2", "1.234,5"}) {
             EXPECT_EQ(numeroDoErro([campo] { LeNumero(campo); }), 13)
                 << campo << " in " << local.name().toStdString();
         }
