@@ -75,24 +75,6 @@ TEST(CommandLine, OpenUpgradesAnOldFileKeepingItsRowsAndRefusesAFileThatIsNotACa
     EXPECT_TRUE(falha.erro.contains(u"danificado ou não é de um Caso Corvalinh."_s))
         << falha.erro.toStdString();
     EXPECT_TRUE(falha.erro.trimmed().endsWith(u"não foi possível abrir o caso em %1."_s.arg(estranho)));
-
-    EXPECT_NE(halvo({u"abrir"_s, dir.filePath(u"nada"_s)}).codigo, 0);
-}
-
-TEST(CommandLine, CopyAndDeleteActOnTheFolderAndBadArgumentsExitWithTwo) {
-    QTemporaryDir dir;
-    const QString origem = dir.filePath(u"origem"_s);
-    const QString destino = dir.filePath(u"destino"_s);
-    ASSERT_EQ(halvo({u"criar"_s, origem}).codigo, 0);
-    ASSERT_EQ(halvo({u"copiar"_s, origem, destino}).codigo, 0);
-    EXPECT_TRUE(QFile::exists(destino + u"/Corvalin.mdb"_s));
-    EXPECT_EQ(halvo({u"abrir"_s, destino}).codigo, 0);
-    EXPECT_EQ(halvo({u"apagar"_s, destino}).codigo, 0);
-    EXPECT_FALSE(QDir(destino).exists());
-    EXPECT_NE(halvo({u"apagar"_s, destino}).codigo, 0);
-
-    EXPECT_EQ(halvo({u"inventado"_s}).codigo, 2);
-    EXPECT_EQ(halvo({u"criar"_s}).codigo, 2);
 }
 
 }  // namespace

@@ -10,35 +10,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-halvo::EntradaCaso entrada(const QString& estudo, const QString& nome, const QString& pasta) {
-    halvo::EntradaCaso e;
-    e.Estudo = estudo;
-    e.Nome = nome;
-    e.Pasta = pasta;
-    e.Descricao = u"Cheia de 1983"_s;
-    e.Criacao = QDateTime(QDate(2026, 3, 1), QTime(14, 5, 0));
-    return e;
-}
-
 TEST(CaseList, IsSavedAndReadBackWithoutReusingCodesAndADamagedFileLeavesItEmpty) {
     QTemporaryDir dir;
     const QString arquivo = dir.filePath(u"config/casos.json"_s);
     halvo::ListaDeCasos lista(arquivo);
     ASSERT_TRUE(lista.Carrega()) << "a missing file is an empty list";
-    EXPECT_EQ(lista.Adiciona(entrada(u"Rio Grande"_s, u"Furnas"_s, dir.filePath("a/../a"))), 1);
-    EXPECT_EQ(lista.Adiciona(entrada(u"Rio Grande"_s, u"Marimbondo"_s, dir.filePath("b"))), 2);
-    lista.setSomenteLeitura(2, true);
+    halvo::EntradaCaso furnas = halvo::EntradaCaso::DaPasta(dir.filePath(u"Rio Grande/Furnas"_s));
+    furnas.Pasta = dir.filePath(u"Rio Grande/Furnas/../Furnas"_s);
+    furnas.Descricao = u"Cheia de 1983"_s;
+    EXPECT_EQ(lista.Adiciona(furnas), 1);
+    EXPECT_EQ(lista.Adiciona(halvo::EntradaCaso::DaPasta(dir.filePath(u"b"_s))), 2);
     lista.Remove(2);
     ASSERT_TRUE(lista.Grava());
 
     halvo::ListaDeCasos relida(arquivo);
     ASSERT_TRUE(relida.Carrega());
     ASSERT_EQ(relida.Casos().size(), 1u);
-    const halvo::EntradaCaso* furnas = relida.ProcuraPasta(dir.filePath(u"a/"_s));
-    ASSERT_NE(furnas, nullptr);
-    EXPECT_EQ(furnas->Pasta, QDir::toNativeSeparators(dir.filePath(u"a"_s)));
-    EXPECT_EQ(furnas->Criacao, QDateTime(QDate(2026, 3, 1), QTime(14, 5, 0)));
-    EXPECT_EQ(relida.Adiciona(entrada(u"Rio Grande"_s, u"Outro"_s, dir.filePath("c"))), 3)
+    const halvo::EntradaCaso* lido = relida.ProcuraPasta(dir.filePath(u"Rio Grande/Furnas/"_s));
+    ASSERT_NE(lido, nullptr);
+    EXPECT_EQ(lido->Pasta, QDir::toNativeSeparators(dir.filePath(u"Rio Grande/Furnas"_s)));
+    EXPECT_EQ(lido->Estudo + u'|' + lido->Nome + u'|' + lido->Descricao,
+              u"Rio Grande|Furnas|Cheia de 1983"_s);
+    EXPECT_EQ(lido->Criacao.toSecsSinceEpoch(), furnas.Criacao.toSecsSinceEpoch());
+    EXPECT_EQ(relida.Adiciona(halvo::EntradaCaso::DaPasta(dir.filePath(u"c"_s))), 3)
         << "the code of a deleted case stays used";
 
     QFile estragado(arquivo);

@@ -2,7 +2,6 @@
 #include "tests/doubles/HostTeste.h"
 
 #include <QAbstractItemView>
-#include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -21,8 +20,6 @@ private slots:
 
     void listFollowsTheIndexIsReadAtEachOpeningAndLeavesTheTableWhereItWas();
     void choosingByKeyboardOrMouseGivesTheRecordsBookmark();
-    void typingReportsAChangeButNoChoice();
-    void aClosedTableIsReportedAndLeavesTheListEmpty();
 
 private:
     void adiciona(int codigo, const QString& nome);
@@ -129,36 +126,6 @@ void TesteCombo::choosingByKeyboardOrMouseGivesTheRecordsBookmark() {
     QTRY_COMPARE(escolhas.count(), 1);
     QCOMPARE(escolhas.takeFirst().at(0).value<recordstore::Bookmark>(), marcadorDe(u"Sobradinho"_s));
     QCOMPARE(mudancas.count(), 0);
-}
-
-void TesteCombo::typingReportsAChangeButNoChoice() {
-    QSignalSpy escolhas(mCombo.get(), &halvo::Combo::Selecionado);
-    QSignalSpy mudancas(mCombo.get(), &halvo::Combo::Alterado);
-    mCombo->setFocus();
-    mCombo->lineEdit()->clear();
-    QTest::keyClicks(mCombo->lineEdit(), u"Itaipu"_s);
-    QCOMPARE(mudancas.count(), 6);
-    QCOMPARE(mudancas.last().at(0).toString(), u"Itaipu"_s);
-    // A typed name that is on the list is still just typed, when Enter ends it or the focus leaves.
-    QTest::keyClick(mCombo->lineEdit(), Qt::Key_Return);
-    mCombo->clearFocus();
-    QCOMPARE(escolhas.count(), 0);
-    QCOMPARE(mCombo->Texto(), u"Itaipu"_s);
-
-    mCombo->setTexto(u"Novo posto"_s);
-    QCOMPARE(mCombo->Texto(), u"Novo posto"_s);
-    QCOMPARE(mudancas.count(), 6);
-}
-
-void TesteCombo::aClosedTableIsReportedAndLeavesTheListEmpty() {
-    mCombo->setTexto(u"Furnas"_s);
-    mBanco->Close();
-    mCombo->showPopup();
-    mCombo->hidePopup();
-    QCOMPARE(mCombo->count(), 0);
-    QCOMPARE(mHost->dialogo.Mensagens().size(), 1u);
-    QCOMPARE(mHost->dialogo.Mensagens()[0].icone, halvo::Icone::Erro);
-    QCOMPARE(mCombo->Texto(), u"Furnas"_s);
 }
 
 }  // namespace
