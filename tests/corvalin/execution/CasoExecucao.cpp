@@ -1,6 +1,5 @@
 #include "tests/corvalin/execution/CasoExecucao.h"
 
-#include "corvalin/options/Opcoes.h"
 #include "corvalin/stations/Historico.h"
 #include "halvo/sdk/CamadaAcesso.h"
 
@@ -35,13 +34,11 @@ void CasoExecucao::SetUp() {
     bd->Fechar();
     ASSERT_TRUE(bd->Abrir(*caso, true, true));
     postoBD.setCasoBD(bd);
-    opcoesBD.setCasoBD(bd);
 
     pastaPlugin = InstalaSolverDeTeste(host.caminho(QStringLiteral("modelos")));
 }
 
 void CasoExecucao::TearDown() {
-    mAssistente.reset();
     // The run leaves the current folder in the case; the test's folder is about to go.
     QDir::setCurrent(QDir::tempPath());
 }
@@ -65,22 +62,6 @@ corvalin::AssistenteExecucao& CasoExecucao::assistente() {
         mAssistente = std::make_unique<corvalin::AssistenteExecucao>(objetos, pastaPlugin, lista, registro);
     }
     return *mAssistente;
-}
-
-void CasoExecucao::mudaOpcoes(const std::function<void(corvalin::Opcoes&)>& muda) {
-    corvalin::Opcoes opcoes;
-    opcoesBD.getOpcoes(opcoes);
-    muda(opcoes);
-    opcoesBD.setOpcoes(opcoes);
-}
-
-int CasoExecucao::conta(const QString& tabela, std::int32_t codigo) const {
-    const auto rs = bd->BancoDeDados().OpenRecordset(tabela);
-    int n = 0;
-    for (; !rs->Eof(); rs->MoveNext()) {
-        n += rs->campo(QStringLiteral("CodigoDoPosto")).paraInteiro() == codigo ? 1 : 0;
-    }
-    return n;
 }
 
 QStringList CasoExecucao::textosDoRegistro() const {

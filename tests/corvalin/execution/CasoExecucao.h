@@ -4,7 +4,6 @@
 #include "corvalin/execution/AssistenteExecucao.h"
 #include "corvalin/execution/ListaPostos.h"
 #include "corvalin/execution/RegistroTexto.h"
-#include "corvalin/options/OpcoesBD.h"
 #include "corvalin/stations/Posto.h"
 #include "corvalin/stations/PostoBD.h"
 #include "halvo/sdk/NotificadorRegistro.h"
@@ -16,7 +15,6 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 
 namespace teste {
@@ -34,7 +32,6 @@ protected:
 
     // Stores a station: catalogue, general data and history.
     void grava(const corvalin::Posto& posto);
-    void mudaOpcoes(const std::function<void(corvalin::Opcoes&)>& muda);
     // The run logic on this case, made at first use (the screen's opening does not load the list).
     corvalin::AssistenteExecucao& assistente();
 
@@ -52,8 +49,6 @@ protected:
         Grava(pastaCaso() + QStringLiteral("Instrucoes_%1.txt").arg(codigo), linhas);
     }
     QStringList execucoes() const { return LinhasDe(pastaCaso() + QStringLiteral("Execucoes.txt")); }
-    // Rows of a station in a table.
-    int conta(const QString& tabela, std::int32_t codigo) const;
     QStringList textosDoRegistro() const;
 
     HostTeste host;
@@ -61,7 +56,6 @@ protected:
     std::shared_ptr<CasoTeste> caso;
     std::shared_ptr<halvo::NotificadorRegistro> notificador = std::make_shared<halvo::NotificadorRegistro>();
     corvalin::PostoBD postoBD;
-    corvalin::OpcoesBD opcoesBD;
     corvalin::ListaPostosMemoria lista;
     corvalin::RegistroMemoria registro;
     QString pastaPlugin;

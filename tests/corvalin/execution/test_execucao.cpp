@@ -1,10 +1,7 @@
 #include "corvalin/execution/ExecucaoPostos.h"
 #include "corvalin/frame/Mensagens.h"
-#include "corvalin/options/Opcoes.h"
 #include "platform/runtime/Vetor.h"
 #include "tests/corvalin/execution/CasoExecucao.h"
-
-#include <QFile>
 
 #include <gmock/gmock.h>
 
@@ -29,21 +26,6 @@ QString pPrevisao(int base) {
     return instrucao;
 }
 
-// Records, with each message, how many lines the log had when it came.
-class DialogoComRegistro : public DialogoRoteirizado {
-public:
-    explicit DialogoComRegistro(const corvalin::RegistroMemoria& registro) : mRegistro(registro) {}
-    halvo::Resposta Mensagem(const QString& texto, const QString& titulo, halvo::Icone icone,
-                             halvo::Botoes botoes) override {
-        LinhasAntes.push_back(mRegistro.Linhas().size());
-        return DialogoRoteirizado::Mensagem(texto, titulo, icone, botoes);
-    }
-    std::vector<std::size_t> LinhasAntes;
-
-private:
-    const corvalin::RegistroMemoria& mRegistro;
-};
-
 class Execucao : public CasoExecucao {
 protected:
     void executa() {
@@ -60,7 +42,7 @@ protected:
     }
 };
 
-// The solver's notice comes before the station's log line, and its file goes.
+// The solver's notice is shown and its file goes.
 TEST_F(Execucao, OneStationFromFolderToStoredForecast) {
     grava(PostoPronto(10, "Alfa"));
     instrucoes(10, {pPrevisao(1000), "relatorio texto", "planilha", "prevp", "aviso Previsão limitada.",
@@ -69,16 +51,11 @@ TEST_F(Execucao, OneStationFromFolderToStoredForecast) {
     Grava(pastaPlugin + QStringLiteral("merro.tmp"), {"x"});
     QDir().mkpath(pastaPosto(10));
     Grava(arquivoPosto(10, "Caso.dat"), {"ANTIGO.arq"});
-    assistente().pCarregarPostos();
-    assistente().pGerarArquivosDireto();
-    DialogoComRegistro dialogo(registro);
-    const halvo::InstalacaoServicos servicos(&dialogo, &host.sistema, &host.halvo);
 
-    assistente().pExecutar();
+    executa();
 
     EXPECT_THAT(execucoes(), ElementsAre("10 C10.arq dadosgerais=1 merro=1 previsao=0"));
     EXPECT_THAT(host.sistema.Programas, ElementsAre(arquivoPosto(10, "Executa.bat")));
-    EXPECT_THAT(host.sistema.PastasCorrentes, ElementsAre(QDir::fromNativeSeparators(pastaPosto(10))));
     EXPECT_THAT(arquivosDe(10), ElementsAre("C10.arq", "C10.bcx", "C10.dat", "C10.exc", "C10.prv", "C10.rel",
                                             "Caso.dat", "RUNSTATE.DAT"));
     EXPECT_THAT(LinhasDe(arquivoPosto(10, "Caso.dat")), ElementsAre("C10.arq"));
@@ -90,16 +67,12 @@ TEST_F(Execucao, OneStationFromFolderToStoredForecast) {
     EXPECT_TRUE(linhas[0].estilo == RegistroTexto::Aviso && linhas[0].destaque && linhas[0].quebraLinha);
     EXPECT_TRUE(linhas[1].estilo == RegistroTexto::Normal && !linhas[1].destaque && linhas[1].quebraLinha);
     EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoSemErro));
-    EXPECT_EQ(assistente().getLblExecutar(), "Execução do Caso:");
-    EXPECT_THAT(dialogo.Ponteiros(), ElementsAre(halvo::Ponteiro::Ocupado, halvo::Ponteiro::Padrao));
-    ASSERT_EQ(dialogo.Mensagens().size(), 1u);
-    EXPECT_EQ(dialogo.Mensagens()[0].texto, "Previsão limitada.");
-    EXPECT_EQ(dialogo.Mensagens()[0].titulo, msgTituloInformacao);
-    EXPECT_EQ(dialogo.Mensagens()[0].icone, halvo::Icone::Informacao);
-    EXPECT_THAT(dialogo.LinhasAntes, ElementsAre(0u));
+    ASSERT_EQ(host.dialogo.Mensagens().size(), 1u);
+    EXPECT_EQ(host.dialogo.Mensagens()[0].texto, "Previsão limitada.");
+    EXPECT_EQ(host.dialogo.Mensagens()[0].titulo, msgTituloInformacao);
+    EXPECT_EQ(host.dialogo.Mensagens()[0].icone, halvo::Icone::Informacao);
 }
 
-// An empty notice shows nothing and goes all the same.
 TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationStillRuns) {
     const QStringList nomes = {"A", "B", "C", "D", "E"};
     for (int i = 0; i < nomes.size(); ++i) {
@@ -109,7 +82,7 @@ TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationSti
     instrucoes(20, {pPrevisao(200), "aborta"});
     instrucoes(30, {});
     instrucoes(40, {pPrevisao(400), "runstate 1"});
-    instrucoes(50, {"aviso", "runstate  0 "});
+    instrucoes(50, {"runstate  0 "});
     // A former forecast of the silent station stays when it writes none.
     plataforma::Vetor<float> antiga(6);
     antiga[1] = 7;
@@ -127,45 +100,6 @@ TEST_F(Execucao, ACrashASilentSolverAndAVerdictOfOneEachFailAndTheNextStationSti
     EXPECT_FLOAT_EQ(previsao(30, 0).at(0), 7);
     EXPECT_FLOAT_EQ(previsao(40, 1).at(5), 560.5f);
     EXPECT_TRUE(host.dialogo.Mensagens().empty());
-    EXPECT_FALSE(QFile::exists(arquivoPosto(50, "Aviso.txt")));
-}
-
-// Read as Val reads it: a text or an empty file is a 0.
-TEST_F(Execucao, TheVerdictIsTheFirstLineOfTheStateFileReadAsANumber) {
-    const QString pasta = host.caminho("estado");
-    QDir().mkpath(pasta);
-    const struct {
-        QStringList linhas;
-        bool semErro;
-    } casos[] = {{{"0"}, true},        {{" 0 ", "1"}, true}, {{QString()}, true}, {{}, true},
-                 {{"terminou"}, true}, {{"1"}, false},       {{" 0.5"}, false}};
-    for (const auto& [linhas, semErro] : casos) {
-        Grava(pasta + QStringLiteral("/RUNSTATE.DAT"), linhas);
-        EXPECT_EQ(corvalin::ExecucaoPostos::pExecutouSemErro(pasta), semErro)
-            << linhas.join(u'|').toStdString();
-    }
-}
-
-TEST_F(Execucao, TheSharedForecastFolderFeedsAStationWithoutForecastAndTakesEveryForecastBack) {
-    const QString compartilhada = QDir::toNativeSeparators(host.caminho("previsoes"));
-    QDir().mkpath(compartilhada);
-    mudaOpcoes([&](corvalin::Opcoes& opcoes) { opcoes.setPastaPrevisoes(compartilhada); });
-    const QString compartilhado = compartilhada + QDir::separator() + QStringLiteral("C%1.prv");
-    Grava(compartilhado.arg(10), {"compartilhado 10"});
-    Grava(compartilhado.arg(20), {"compartilhado 20"});
-    for (const auto& [codigo, nome] : {std::pair{10, "Alfa"}, std::pair{20, "Beta"}}) {
-        grava(PostoPronto(codigo, nome));
-        instrucoes(codigo, {"runstate 0"});
-    }
-    QDir().mkpath(pastaPosto(20));
-    Grava(arquivoPosto(20, "C20.prv"), {"local 20"});
-
-    executa();
-
-    EXPECT_THAT(execucoes(), ElementsAre("10 C10.arq dadosgerais=1 merro=0 previsao=1",
-                                         "20 C20.arq dadosgerais=1 merro=0 previsao=1"));
-    EXPECT_THAT(LinhasDe(arquivoPosto(10, "C10.prv")), ElementsAre("compartilhado 10"));
-    EXPECT_THAT(LinhasDe(compartilhado.arg(20)), ElementsAre("local 20"));
 }
 
 TEST_F(Execucao, TheStationsEraseFlagsAndTheRemovalOfAnEmptyFolder) {
@@ -189,12 +123,9 @@ TEST_F(Execucao, TheStationsEraseFlagsAndTheRemovalOfAnEmptyFolder) {
                 ElementsAre("Posto 10 - Alfa", Sucesso, Branco, "Posto 20 - Beta", Falha, Branco));
 }
 
-TEST_F(Execucao, TheHostsRunTakesEveryStationTwiceWithoutLimitsFiles) {
+TEST_F(Execucao, TheHostsRunTakesEveryStationTwice) {
     Posto alfa = PostoPronto(10, "Alfa");
     alfa.Arquivos.ApagarArquivoDadosGerais = true;
-    alfa.FlagLimite = 1;
-    alfa.NomeArqLimite = "C10.lim";
-    alfa.discretizacao = 2;
     grava(alfa);
     grava(PostoPronto(20, "Beta"));
     instrucoes(10, {"runstate 0"});
@@ -210,7 +141,6 @@ TEST_F(Execucao, TheHostsRunTakesEveryStationTwiceWithoutLimitsFiles) {
                                          "20 C20.arq dadosgerais=1 merro=0 previsao=0",
                                          "10 C10.arq dadosgerais=0 merro=0 previsao=0",
                                          "20 C20.arq dadosgerais=1 merro=0 previsao=0"));
-    EXPECT_FALSE(QFile::exists(arquivoPosto(10, "C10.lim")));
     EXPECT_EQ(textosDoRegistro().count(Sucesso), 4);
     EXPECT_THAT(notificador->Eventos(), ElementsAre(halvo::EventoExecucaoSemErro));
 }
