@@ -1,133 +1,171 @@
-// The model recovers the parameters of processes it was built for, and its interval has the
-// width the process gives.
+// The computations on the history: its gaps filled, the limits' percentiles within the magnitude
+// band of the last observation, the model's parameters recovered from processes it was built for,
+// its interval as wide as the process gives, and the point forecast at the joint loss's minimum.
 
 #include "tests/solver/EstacaoTeste.h"
 
 #include "solver/Estatistica.h"
+#include "solver/LimitesPercentis.h"
 #include "solver/ModeloPAR.h"
+#include "solver/PontoPrevisto.h"
 #include "solver/Previsor.h"
 #include "solver/SerieSemanal.h"
-#include "solver/Transformacao.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
-#include <numbers>
+#include <limits>
 #include <random>
+#include <tuple>
 
 namespace {
 
+using solver::Agrupamento;
 using solver::TipoTransformacao;
+using teste::fase;
 using teste::semanasDoAno;
 
-double pFase(std::size_t semana) {
-    return 2.0 * std::numbers::pi * static_cast<double>(semana) / semanasDoAno;
-}
-
-solver::ModeloPAR pAjusta(const teste::Processo& p, unsigned semente) {
-    const solver::SerieSemanal serie(1900, semanasDoAno, teste::simula(p, 300, semente));
-    return solver::ModeloPAR::ajusta(serie, serie.tamanho(), TipoTransformacao::logaritmica);
-}
-
-TEST(ModeloPAR, RecuperaCoeficientesEOrdemDeUmaAutorregressaoPeriodicaDePrimeiraOrdem) {
-    teste::Processo p = teste::processo(0.0, 0.0, 0.6);
-    for (std::size_t s = 0; s < semanasDoAno; ++s) {
-        p.phi1[s] = 0.5 + 0.3 * std::sin(pFase(s));
+TEST(SerieSemanal, InterpolaLacunasCurtasEUsaAMedianaNasLongasENasPontas) {
+    // Four-week years; week k of year a holds 10 * (a + 1) + k.
+    std::vector<double> v;
+    for (int a = 0; a < 6; ++a) {
+        for (int k = 0; k < 4; ++k) {
+            v.push_back(10.0 * (a + 1) + k);
+        }
     }
-    const auto modelo = pAjusta(p, 11);
-    double erro = 0.0;
-    int ordemUm = 0;
-    for (std::size_t s = 0; s < semanasDoAno; ++s) {
-        const auto& ps = modelo.getParametros(static_cast<int>(s));
-        ASSERT_FALSE(ps.phi.empty()) << "semana " << s;
-        erro += std::abs(ps.phi[0] - p.phi1[s]);
-        ordemUm += ps.phi.size() == 1 ? 1 : 0;
-        EXPECT_NEAR(ps.media, 4.0 + std::sin(pFase(s)), 0.1) << "semana " << s;
+    v[0] = 0.0;         // leading gap: median of week 1
+    v[5] = v[6] = 0.0;  // two weeks between 20 and 23: a line
+    for (int t = 12; t < 18; ++t) {
+        v[static_cast<std::size_t>(t)] = 0.0;  // six weeks: too long to interpolate
     }
-    EXPECT_LT(erro / semanasDoAno, 0.06);
-    EXPECT_GE(ordemUm, 45);
+    solver::SerieSemanal serie(2000, 4, v);
+    serie.preencheLacunas(4);
+
+    std::vector<std::tuple<std::size_t, std::size_t, bool>> lacunas;
+    for (const solver::Lacuna& l : serie.getLacunas()) {
+        lacunas.emplace_back(l.inicio, l.semanas, l.interpolada);
+    }
+    EXPECT_EQ(lacunas, (decltype(lacunas){{0, 1, false}, {5, 2, true}, {12, 6, false}}));
+    EXPECT_DOUBLE_EQ(serie.vazao(5), 21.0);
+    EXPECT_DOUBLE_EQ(serie.vazao(6), 22.0);
+    // Week 1 was observed only in years 2, 3 and 6 (20, 30, 60): median 30.
+    EXPECT_DOUBLE_EQ(serie.vazao(0), 30.0);
+    EXPECT_FALSE(serie.observada(5));
+    EXPECT_TRUE(serie.observada(4));
 }
 
-TEST(ModeloPAR, RecuperaSegundaOrdem) {
-    const auto modelo = pAjusta(teste::processo(0.55, 0.3, 0.5), 12);
-    double soma1 = 0.0;
-    double soma2 = 0.0;
-    int ordemDois = 0;
-    for (int s = 0; s < semanasDoAno; ++s) {
-        const auto& phi = modelo.getParametros(s).phi;
-        ASSERT_GE(phi.size(), 2u) << "semana " << s;
-        soma1 += phi[0];
-        soma2 += phi[1];
-        ordemDois += phi.size() == 2 ? 1 : 0;
+TEST(LimitesPercentis, PeriodosContadosDoMesInicialDoAno) {
+    // Week, grouping, first month of the year, period.
+    const std::tuple<int, Agrupamento, int, int> casos[] = {{4, Agrupamento::mensal, 1, 1},
+                                                            {0, Agrupamento::mensal, 10, 9},
+                                                            {51, Agrupamento::mensal, 10, 8},
+                                                            {51, Agrupamento::trimestral, 10, 2},
+                                                            {30, Agrupamento::semestral, 7, 0}};
+    for (const auto& [semana, agrupamento, mes, periodo] : casos) {
+        EXPECT_EQ(solver::periodoDaSemana(semana, agrupamento, mes), periodo) << semana << " " << mes;
     }
-    EXPECT_NEAR(soma1 / semanasDoAno, 0.55, 0.05);
-    EXPECT_NEAR(soma2 / semanasDoAno, 0.3, 0.05);
-    EXPECT_GE(ordemDois, 45);
 }
 
-TEST(ModeloPAR, IntervaloTemALarguraEAAssimetriaDoProcesso) {
-    // Order 1 with phi 0.6 everywhere: one week ahead the log flow is normal with mean
-    // mu + sd * 0.6 * z and deviation sd * 0.8 * sigma_z, so the flow's bounds are lognormal.
+TEST(LimitesPercentis, FaixaDaUltimaObservacaoEscolheOsAnos) {
+    // Two-week years. Week 2 follows a low week 1 (1) in even years and a high one (100) in odd
+    // years, and is itself low (10 + a) or high (200 + a).
+    std::vector<double> v;
+    std::vector<double> altas;
+    for (int a = 0; a < 40; ++a) {
+        const bool alto = a % 2 == 1;
+        v.push_back(alto ? 100.0 : 1.0);
+        v.push_back(alto ? 200.0 + a : 10.0 + a);
+        if (alto) {
+            altas.push_back(v.back());
+        }
+    }
+    v.push_back(150.0);  // the last observation: week 1, high
+    const solver::SerieSemanal serie(1950, 2, v);
+    const solver::ArquivoLimites limites{Agrupamento::semanal, 2, {5.0, 10.0}, {95.0, 90.0}};
+    const auto l = solver::calculaLimites(serie, serie.tamanho(), limites, 1, serie.tamanho());
+    // The first week ahead is week 2: high band, its own percentiles.
+    EXPECT_EQ(std::tie(l[0].periodo, l[0].faixaMagnitude), std::make_tuple(1, 1));
+    EXPECT_DOUBLE_EQ(l[0].faixa.inferior, solver::quantil(altas, 0.10));
+    EXPECT_DOUBLE_EQ(l[0].faixa.superior, solver::quantil(altas, 0.90));
+}
+
+TEST(ModeloPAR, RecuperaOrdemCoeficientesEMediaDeAutorregressoesPeriodicas) {
+    // The process, its order and the seed.
+    const std::tuple<teste::Processo, std::size_t, unsigned> casos[] = {
+        {{.phi1 = 0.5, .phi2 = 0.0, .desvioRuido = 0.6, .phi1Sazonal = 0.3}, 1, 11},
+        {{.phi1 = 0.55, .phi2 = 0.3, .desvioRuido = 0.5}, 2, 12}};
+    for (const auto& [p, ordem, semente] : casos) {
+        SCOPED_TRACE(ordem);
+        const solver::SerieSemanal serie(1900, semanasDoAno, teste::simula(p, 300, semente));
+        const auto modelo = solver::ModeloPAR::ajusta(serie, serie.tamanho(), TipoTransformacao::logaritmica);
+        double erro1 = 0.0;
+        double erro2 = 0.0;
+        int ordemCerta = 0;
+        for (std::size_t s = 0; s < semanasDoAno; ++s) {
+            const auto& ps = modelo.getParametros(static_cast<int>(s));
+            ASSERT_GE(ps.phi.size(), ordem) << "semana " << s;
+            erro1 += std::abs(ps.phi[0] - (p.phi1 + p.phi1Sazonal * std::sin(fase(s))));
+            erro2 += ordem == 2 ? ps.phi[1] - p.phi2 : 0.0;
+            ordemCerta += ps.phi.size() == ordem ? 1 : 0;
+            EXPECT_NEAR(ps.media, 4.0 + std::sin(fase(s)), 0.1) << "semana " << s;
+        }
+        EXPECT_LT(erro1 / semanasDoAno, 0.06);
+        EXPECT_NEAR(erro2 / semanasDoAno, 0.0, 0.05);
+        EXPECT_GE(ordemCerta, 45);
+    }
+}
+
+TEST(ModeloPAR, IntervaloLogNormalComALarguraDoProcesso) {
+    // Order 1 with phi 0.6 everywhere: one week ahead the log flow is normal with mean mu + sd * 0.6 * z
+    // and deviation sd * 0.8 * sigma_z. The origin follows a high week (z above 2), where 0.6 * z shows.
     const solver::SerieSemanal serie(1900, semanasDoAno,
-                                     teste::simula(teste::processo(0.6, 0.0, 0.8), 300, 13));
+                                     teste::simula({.phi1 = 0.6, .phi2 = 0.0, .desvioRuido = 0.8}, 300, 13));
     const solver::Previsor previsor(serie, serie.tamanho(), TipoTransformacao::logaritmica);
-    const std::size_t origem = serie.tamanho() - 10;
+    const std::size_t origem = serie.tamanho() - 8;
     const auto resumo = previsor.preve(serie.getVazoes(), origem, 0.95, solver::Simulador::trajetoriasPadrao);
-    const auto& intervalo = resumo.intervalo;
 
     const auto s = static_cast<std::size_t>(serie.semana(origem));
     const std::size_t anterior = (s + semanasDoAno - 1) % semanasDoAno;
-    const double desvio = 0.4 + 0.1 * std::cos(pFase(s));
-    const double zAnterior = (std::log(serie.vazao(origem - 1)) - 4.0 - std::sin(pFase(anterior))) /
-                             (0.4 + 0.1 * std::cos(pFase(anterior)));
-    const double centro = 4.0 + std::sin(pFase(s)) + desvio * 0.6 * zAnterior;
+    const double desvio = 0.4 + 0.1 * std::cos(fase(s));
+    const double zAnterior = (std::log(serie.vazao(origem - 1)) - 4.0 - std::sin(fase(anterior))) /
+                             (0.4 + 0.1 * std::cos(fase(anterior)));
+    const double centro = 4.0 + std::sin(fase(s)) + desvio * 0.6 * zAnterior;
     const double meiaLargura = 1.96 * desvio * 0.8;
     EXPECT_NEAR(std::log(resumo.mediana[0]), centro, 0.1);
-    EXPECT_NEAR(std::log(intervalo.inferior[0]), centro - meiaLargura, 0.12);
-    EXPECT_NEAR(std::log(intervalo.superior[0]), centro + meiaLargura, 0.12);
-    // Back-transformed, the upper side is the wider one.
-    EXPECT_GT(intervalo.superior[0] - resumo.mediana[0], resumo.mediana[0] - intervalo.inferior[0]);
-    // A lognormal's mean lies above its median; the joint-loss value between the two losses'
-    // optima, below the mean.
-    EXPECT_LT(resumo.perdaConjunta[0], std::exp(centro + 0.5 * meiaLargura * meiaLargura / (1.96 * 1.96)));
-    // The same seed gives the same scenarios, whatever was forecast before.
-    EXPECT_EQ(previsor.preve(serie.getVazoes(), origem, 0.95, solver::Simulador::trajetoriasPadrao)
-                  .intervalo.superior,
-              intervalo.superior);
+    EXPECT_NEAR(std::log(resumo.intervalo.inferior[0]), centro - meiaLargura, 0.12);
+    EXPECT_NEAR(std::log(resumo.intervalo.superior[0]), centro + meiaLargura, 0.12);
 }
 
-TEST(Transformacao, IdaEVoltaDeCadaTipoEExpoenteBoxCoxEstimado) {
-    for (const double lambda : {0.0, 0.25, 0.5, 1.0, 1.5}) {
-        const solver::TransformacaoSemana t{TipoTransformacao::boxCox, lambda};
-        for (const double x : {0.003, 1.0, 37.5, 12000.0}) {
-            EXPECT_NEAR(t.inverte(t.aplica(x)), x, 1e-9 * x) << lambda << " " << x;
-        }
+double pPerdaMedia(const std::vector<double>& y, double f, double erroRelativo, double erroQuadratico) {
+    double soma = 0.0;
+    for (const double v : y) {
+        soma += std::abs(v - f) / (v * erroRelativo) + (v - f) * (v - f) / erroQuadratico;
     }
-    const solver::TransformacaoSemana log{TipoTransformacao::logaritmica, 0.0};
-    EXPECT_DOUBLE_EQ(log.inverte(log.aplica(42.0)), 42.0);
-    EXPECT_DOUBLE_EQ((solver::TransformacaoSemana{TipoTransformacao::nenhuma, 1.0}.aplica(42.0)), 42.0);
-    // Below the Box-Cox origin there is no flow.
-    EXPECT_EQ((solver::TransformacaoSemana{TipoTransformacao::boxCox, 0.5}.inverte(-3.0)), 0.0);
-
-    std::mt19937 gerador(5);
-    // Skewed enough for the likelihood to tell the exponents apart.
-    std::normal_distribution<double> normal(5.0, 1.5);
-    for (const double lambda : {0.5, 1.0}) {
-        const solver::TransformacaoSemana t{TipoTransformacao::boxCox, lambda};
-        std::vector<double> vazoes;
-        for (int i = 0; i < 2000; ++i) {
-            vazoes.push_back(t.inverte(normal(gerador)));
-        }
-        EXPECT_NEAR(solver::estimaLambdaBoxCox(vazoes), lambda, 0.1);
-    }
+    return soma / static_cast<double>(y.size());
 }
 
-TEST(Estatistica, QuantilInterpolaEntreEstatisticasDeOrdem) {
-    const std::vector<double> v = {4.0, 1.0, 3.0, 2.0};
-    EXPECT_DOUBLE_EQ(solver::quantil(v, 0.5), 2.5);
-    EXPECT_DOUBLE_EQ(solver::quantil(v, 0.0), 1.0);
-    EXPECT_DOUBLE_EQ(solver::quantil(v, 1.0), 4.0);
-    EXPECT_DOUBLE_EQ(solver::quantil({10.0, 0.0}, 0.25), 2.5);
+TEST(PontoPrevisto, ValorPerdaConjuntaMinimizaAPerdaDeCadaPeso) {
+    std::mt19937 gerador(3);
+    std::lognormal_distribution<double> lognormal(2.0, 0.8);
+    std::vector<double> y(400);
+    std::generate(y.begin(), y.end(), [&] { return lognormal(gerador); });
+    std::sort(y.begin(), y.end());
+    const double variancia = std::pow(solver::desvioPadrao(y), 2);
+    // From relative error alone (the median weighted by 1 / y) to squared error alone (the mean).
+    const std::pair<double, double> pesos[] = {
+        {0.5, variancia / 30.0}, {0.5, variancia}, {0.5, 30.0 * variancia}, {0.5, 1e12}, {1e9, variancia}};
+    for (const auto& [erroRelativo, erroQuadratico] : pesos) {
+        const double f = solver::valorPerdaConjunta(y, erroRelativo, erroQuadratico);
+        // No point of a fine grid over the sample's range does better.
+        double melhorGrade = std::numeric_limits<double>::infinity();
+        for (int i = 0; i <= 20000; ++i) {
+            const double g = y.front() + (y.back() - y.front()) * i / 20000.0;
+            melhorGrade = std::min(melhorGrade, pPerdaMedia(y, g, erroRelativo, erroQuadratico));
+        }
+        EXPECT_LE(pPerdaMedia(y, f, erroRelativo, erroQuadratico), melhorGrade + 1e-9) << erroQuadratico;
+    }
+    EXPECT_DOUBLE_EQ(solver::valorPerdaConjunta(std::vector<double>(5, 7.0), 0.5, 1.0), 7.0);
 }
 
 }  // namespace
