@@ -1,5 +1,7 @@
 #include "corvalin/execution/ExecucaoPostos.h"
 #include "corvalin/frame/Mensagens.h"
+#include "corvalin/options/Opcoes.h"
+#include "corvalin/options/OpcoesBD.h"
 #include "platform/runtime/Vetor.h"
 #include "tests/corvalin/execution/CasoExecucao.h"
 
@@ -121,6 +123,35 @@ TEST_F(Execucao, TheStationsEraseFlagsAndTheRemovalOfAnEmptyFolder) {
     EXPECT_FALSE(QDir(pastaPosto(20)).exists());
     EXPECT_THAT(textosDoRegistro(),
                 ElementsAre("Posto 10 - Alfa", Sucesso, Branco, "Posto 20 - Beta", Falha, Branco));
+}
+
+// The shared forecasts folder gives a station its former forecast before the run and takes every
+// station's forecast back after it.
+TEST_F(Execucao, TheSharedForecastFolderFeedsAStationWithoutForecastAndTakesEveryForecastBack) {
+    const QString compartilhada = QDir::toNativeSeparators(host.caminho("previsoes"));
+    QDir().mkpath(compartilhada);
+    corvalin::OpcoesBD opcoesBD;
+    opcoesBD.setCasoBD(bd);
+    corvalin::Opcoes opcoes;
+    opcoesBD.getOpcoes(opcoes);
+    opcoes.setPastaPrevisoes(compartilhada);
+    opcoesBD.setOpcoes(opcoes);
+    const QString compartilhado = compartilhada + QDir::separator() + QStringLiteral("C%1.prv");
+    Grava(compartilhado.arg(10), {"compartilhado 10"});
+    Grava(compartilhado.arg(20), {"compartilhado 20"});
+    for (const auto& [codigo, nome] : {std::pair{10, "Alfa"}, std::pair{20, "Beta"}}) {
+        grava(PostoPronto(codigo, nome));
+        instrucoes(codigo, {"runstate 0"});
+    }
+    QDir().mkpath(pastaPosto(20));
+    Grava(arquivoPosto(20, "C20.prv"), {"local 20"});
+
+    executa();
+
+    EXPECT_THAT(execucoes(), ElementsAre("10 C10.arq dadosgerais=1 merro=0 previsao=1",
+                                         "20 C20.arq dadosgerais=1 merro=0 previsao=1"));
+    EXPECT_THAT(LinhasDe(arquivoPosto(10, "C10.prv")), ElementsAre("compartilhado 10"));
+    EXPECT_THAT(LinhasDe(compartilhado.arg(20)), ElementsAre("local 20"));
 }
 
 TEST_F(Execucao, TheHostsRunTakesEveryStationTwice) {

@@ -4,6 +4,8 @@
 
 #include <gmock/gmock.h>
 
+#include <tuple>
+
 namespace teste {
 namespace {
 
