@@ -9,6 +9,7 @@
 #include "solver/ModeloPAR.h"
 #include "solver/PontoPrevisto.h"
 #include "solver/Previsor.h"
+#include "solver/Retroteste.h"
 #include "solver/SerieSemanal.h"
 
 #include <gtest/gtest.h>
@@ -166,6 +167,24 @@ TEST(PontoPrevisto, ValorPerdaConjuntaMinimizaAPerdaDeCadaPeso) {
         EXPECT_LE(pPerdaMedia(y, f, erroRelativo, erroQuadratico), melhorGrade + 1e-9) << erroQuadratico;
     }
     EXPECT_DOUBLE_EQ(solver::valorPerdaConjunta(std::vector<double>(5, 7.0), 0.5, 1.0), 7.0);
+}
+
+TEST(Retroteste, EscolheOLogaritmoEmVazoesLogNormaisEBateAClimatologia) {
+    // A lognormal first-order autoregression, strongly skewed.
+    const teste::Processo p{
+        .phi1 = 0.8, .phi2 = 0.0, .desvioRuido = 0.6, .nivel = 3.0, .escala = 0.9, .escalaSazonal = 0.0};
+    const solver::SerieSemanal serie(1950, semanasDoAno, teste::simula(p, 30, 21));
+    const auto escolha = solver::escolheModelo(
+        serie, serie.tamanho(), {TipoTransformacao::nenhuma, TipoTransformacao::logaritmica}, 0.95);
+    ASSERT_EQ(escolha.candidatos.size(), 2u);
+    const solver::Candidato& log = escolha.getEscolhido();
+    EXPECT_EQ(log.tipo, TipoTransformacao::logaritmica);
+    for (std::size_t h = 0; h < solver::horizonte; ++h) {
+        EXPECT_TRUE(log.placar.superaEmAmbas(h, log.climatologia)) << h;
+        // The 95% interval of the process it was built for, from the back-test's few paths.
+        EXPECT_GT(log.placar.cobertura(h), 85.0) << h;
+        EXPECT_LT(log.placar.cobertura(h), 99.0) << h;
+    }
 }
 
 }  // namespace
