@@ -258,9 +258,10 @@ private slots:
                 atual = atual->nextInFocusChain();
             } while (atual->focusPolicy() == Qt::NoFocus || atual->objectName().isEmpty());
         }
-        QCOMPARE(ordem.join(u' '), QStringLiteral("TxtTesteCodigo CBDTeste TxtTesteValor BotTesteNavegacao_0 "
-                                                  "BotTesteNavegacao_1 BotTesteNavegacao_2 BotTesteNavegacao_3 "
-                                                  "BotTesteGravar BotTesteSair"));
+        QCOMPARE(ordem.join(u' '),
+                 QStringLiteral("TxtTesteCodigo CBDTeste TxtTesteValor BotTesteNavegacao_0 "
+                                "BotTesteNavegacao_1 BotTesteNavegacao_2 BotTesteNavegacao_3 "
+                                "BotTesteGravar BotTesteSair"));
 
         // An empty case: every step leaves the screen blank and says nothing.
         for (int i : {0, 1, 2, 3}) {
