@@ -8,7 +8,6 @@
 
 #include <QBoxLayout>
 #include <QDir>
-#include <QFrame>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -61,15 +60,6 @@ FrmImporta::FrmImporta(QWidget* pai)
     selecao->addWidget(mBotSelecionar);
     selecao->addStretch(1);
     lista->addLayout(selecao);
-    auto* linha = new QFrame(this);
-    linha->setFrameShape(QFrame::HLine);
-    linha->setFrameShadow(QFrame::Sunken);
-    auto* botoes = new QHBoxLayout;
-    botoes->addStretch(1);
-    botoes->addWidget(mBotVoltar);
-    botoes->addWidget(mBotAvancar);
-    botoes->addSpacing(fontMetrics().averageCharWidth() * 2);
-    botoes->addWidget(mBotCancela);
     auto* tela = new QVBoxLayout(this);
     tela->addWidget(mLblImporta);
     tela->addLayout(lista, 1);
@@ -77,8 +67,7 @@ FrmImporta::FrmImporta(QWidget* pai)
     tela->addWidget(mLblStatusNome);
     tela->addWidget(mLblStatusNumero);
     tela->addWidget(mPrgImporta);
-    tela->addWidget(linha);
-    tela->addLayout(botoes);
+    AdicionaPassos(*tela, *mBotVoltar, *mBotAvancar, *mBotCancela);
     resize(600, 400);
 
     connect(mBotAvancar, &QPushButton::clicked, this, [this] {

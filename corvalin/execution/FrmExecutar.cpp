@@ -6,7 +6,6 @@
 #include "halvo/controles/RichText.h"
 
 #include <QBoxLayout>
-#include <QFrame>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -70,22 +69,12 @@ FrmExecutar::FrmExecutar(QString pastaPlugin, QWidget* pai)
     marcacao->addWidget(mLblAlertas);
     marcacao->addSpacing(fontMetrics().averageCharWidth() * 3);
     marcacao->addWidget(mLblProblemas);
-    auto* linha = new QFrame(this);
-    linha->setFrameShape(QFrame::HLine);
-    linha->setFrameShadow(QFrame::Sunken);
-    auto* passos = new QHBoxLayout;
-    passos->addStretch(1);
-    passos->addWidget(mBotVoltar);
-    passos->addWidget(mBotAvancar);
-    passos->addSpacing(fontMetrics().averageCharWidth() * 2);
-    passos->addWidget(mBotCancela);
     auto* tela = new QVBoxLayout(this);
     tela->addWidget(mLblExecutar);
     tela->addWidget(mLstExecutar, 1);
     tela->addWidget(mRtfExecutar, 1);
     tela->addLayout(marcacao);
-    tela->addWidget(linha);
-    tela->addLayout(passos);
+    AdicionaPassos(*tela, *mBotVoltar, *mBotAvancar, *mBotCancela);
     resize(560, 420);
 
     connect(mBotAvancar, &QPushButton::clicked, this,

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QBoxLayout>
+#include <QFrame>
 #include <QLabel>
 #include <QString>
 #include <QWidget>
@@ -19,6 +21,22 @@ T* Controle(QWidget& pai, const QString& nome, const QString& texto = {}) {
         controle->setText(texto);
     }
     return controle;
+}
+
+// The foot of an assistant's page: a sunken rule, then its step buttons at the right, Cancel set
+// apart from the other two.
+inline void AdicionaPassos(QVBoxLayout& tela, QWidget& voltar, QWidget& avancar, QWidget& cancela) {
+    auto* linha = new QFrame;
+    linha->setFrameShape(QFrame::HLine);
+    linha->setFrameShadow(QFrame::Sunken);
+    tela.addWidget(linha);
+    auto* passos = new QHBoxLayout;
+    passos->addStretch(1);
+    passos->addWidget(&voltar);
+    passos->addWidget(&avancar);
+    passos->addSpacing(avancar.fontMetrics().averageCharWidth() * 2);
+    passos->addWidget(&cancela);
+    tela.addLayout(passos);
 }
 
 }  // namespace corvalin
